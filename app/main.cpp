@@ -1,0 +1,16 @@
+#include "app/AppDelegate.h"
+
+namespace {
+
+platform::Application* app = nullptr;
+AppDelegate* delegate = nullptr; // kept here: the application does not retain its delegate
+
+} // namespace
+
+int main() {
+    app = &platform::Application::shared();
+    delegate = new AppDelegate;
+    app->setDelegate(delegate);
+    app->run();
+    return 0;
+}
