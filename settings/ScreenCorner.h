@@ -20,7 +20,7 @@ inline constexpr std::array<ScreenCorner, 4> allScreenCorners{
 [[nodiscard]] std::string_view rawValue(ScreenCorner corner);
 
 /// The corner with exactly this name; empty when there is none.
-[[nodiscard]] std::optional<ScreenCorner> screenCornerFromRawValue(std::string_view rawValue);
+[[nodiscard]] std::optional<ScreenCorner> screenCornerFromRawValue(std::string_view name);
 
 /// Equal corners hash equally: the hash is that of the stored name.
 template <>
