@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/simulated/Accessibility.h"
+#include "platform/simulated/Application.h"
+#include "platform/simulated/Calls.h"
+#include "platform/simulated/Clock.h"
+#include "platform/simulated/HotKeys.h"
+#include "platform/simulated/MainQueue.h"
+#include "platform/simulated/UserDefaults.h"
+#include "platform/simulated/Workspace.h"
+
+/// A desktop in memory. The program reaches it through the seam and cannot tell it from a real one;
+/// a test reaches it here, as the user, the other programs and the faults of the system. It does
+/// nothing by itself: queues turn and time passes when the test says so. Using it in a way in which
+/// no desktop can be used is a fatal error that says what was wrong.
+namespace simulated {
+
+/// The desktop and its services: each keeps its own state and its own fault switches.
+struct Desktop {
+    Calls calls;
+    Clock clock;
+    MainQueue mainQueue;
+    UserDefaults userDefaults;
+    Workspace workspace;
+    Accessibility accessibility;
+    HotKeys hotKeys;
+    Application application;
+};
+
+/// The one desktop of this process, made by the first call and never destroyed. Tests that share a
+/// process share it, and the program's own process-wide objects with it: give each its own process.
+Desktop& desktop();
+
+} // namespace simulated
