@@ -1,0 +1,6 @@
+#include "tests/desktop/zoo/Zoo.h"
+
+int main() {
+    desktop::Zoo().run();
+    return 0;
+}
