@@ -1,0 +1,83 @@
+#pragma once
+
+// The Foundation calls that the host makes.
+
+#include <CoreFoundation/CoreFoundation.h>
+#include <objc/NSObject.h>
+#include <objc/runtime.h>
+
+@class NSArray;
+@class NSDictionary;
+@class NSNotification;
+
+// What `for (x in y)` compiles to.
+typedef struct {
+    unsigned long state;
+    id* itemsPtr;
+    unsigned long* mutationsPtr;
+    unsigned long extra[5];
+} NSFastEnumerationState;
+
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState*)state
+                                  objects:(id*)buffer
+                                    count:(NSUInteger)length;
+@end
+
+@protocol NSCopying
+@end
+
+typedef NSUInteger NSStringEncoding;
+enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
+
+@interface NSString : NSObject <NSCopying>
+- (instancetype)initWithBytes:(const void*)bytes
+                       length:(NSUInteger)length
+                     encoding:(NSStringEncoding)encoding;
+- (NSUInteger)lengthOfBytesUsingEncoding:(NSStringEncoding)encoding;
+@property (readonly) const char* UTF8String;
+@end
+
+@interface NSValue : NSObject
+@end
+
+@interface NSNumber : NSValue
++ (NSNumber*)numberWithBool:(BOOL)value;
++ (NSNumber*)numberWithInteger:(NSInteger)value;
++ (NSNumber*)numberWithDouble:(double)value;
+@end
+
+@interface NSData : NSObject
++ (instancetype)dataWithBytes:(const void*)bytes length:(NSUInteger)length;
+@property (readonly) const void* bytes;
+@property (readonly) NSUInteger length;
+@end
+
+@interface NSArray : NSObject <NSFastEnumeration>
+@end
+
+@interface NSMutableArray : NSArray
+- (void)addObject:(id)object;
+@end
+
+@interface NSDictionary : NSObject
++ (instancetype)dictionaryWithObjects:(const id[])objects
+                              forKeys:(const id<NSCopying>[])keys
+                                count:(NSUInteger)count;
+@end
+
+@interface NSMutableDictionary : NSDictionary
+- (void)setObject:(id)object forKey:(id<NSCopying>)key;
+@end
+
+@interface NSUserDefaults : NSObject
+@property (class, readonly) NSUserDefaults* standardUserDefaults;
+- (void)registerDefaults:(NSDictionary*)registrationDictionary;
+- (BOOL)boolForKey:(NSString*)key;
+- (double)doubleForKey:(NSString*)key;
+- (NSData*)dataForKey:(NSString*)key;
+- (NSArray*)stringArrayForKey:(NSString*)key;
+- (void)setBool:(BOOL)value forKey:(NSString*)key;
+- (void)setDouble:(double)value forKey:(NSString*)key;
+- (void)setObject:(id)value forKey:(NSString*)key;
+@end
