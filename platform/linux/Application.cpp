@@ -1,0 +1,142 @@
+#include "platform/Application.h"
+
+#include "platform/MainQueue.h"
+#include "platform/linux/Connection.h"
+#include "platform/linux/EventPump.h"
+#include "platform/linux/OwnProcess.h"
+#include "platform/linux/Signals.h"
+#include "platform/linux/SingleInstance.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace platform {
+
+using linux_host::Connection;
+
+namespace {
+
+Application* instance = nullptr;
+std::unique_ptr<QApplication> qtApplication;
+ApplicationDelegate* theDelegate = nullptr;
+int terminationSignals = -1;
+bool isTerminating = false;
+
+void requireToBeAlone(Connection& connection) {
+    if (!linux_host::claimDisplay(connection)) {
+        std::fputs("quellbar: already running on this display\n", stderr);
+        std::exit(EXIT_SUCCESS);
+    }
+}
+
+// Qt would choose Wayland where it can, and there is nothing to be done for windows there.
+void preferX11() {
+    constexpr const char* platformVariable = "QT_QPA_PLATFORM";
+    if (qEnvironmentVariableIsEmpty(platformVariable)) {
+        qputenv(platformVariable, "xcb");
+    }
+}
+
+// The program reads no command line, and the session has no say in when it starts: that is the
+// login item's.
+void createQtApplication() {
+    static auto name = std::to_array("quellbar");
+    static std::array<char*, 2> arguments{name.data(), nullptr};
+    static int argumentCount = 1;
+    QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
+    qtApplication = std::make_unique<QApplication>(argumentCount, arguments.data());
+    QGuiApplication::setApplicationDisplayName("Quellbar");
+    QGuiApplication::setDesktopFileName("io.github.quellbar.Quellbar");
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+void tellDelegateOfTermination() {
+    if (isTerminating) {
+        return;
+    }
+    isTerminating = true;
+    if (theDelegate != nullptr) {
+        theDelegate->applicationWillTerminate();
+    }
+}
+
+// Qt calls exit() when it is the first to find that the X server is gone. That is an end like any
+// other: the delegate hears of it, and the status is that of `terminate()`. Not even Qt's own
+// destructors may run then, since they were not left a chance to come in order.
+void endAfterLossOfServer() {
+    Connection& connection = Connection::shared();
+    connection.dispatchEvents();
+    if (connection.isBroken() && !isTerminating) {
+        tellDelegateOfTermination();
+        std::_Exit(EXIT_SUCCESS);
+    }
+}
+
+// Only now do signals count: one that came while launching has waited.
+void heedSignals() {
+    if (terminationSignals < 0) {
+        return;
+    }
+    auto* const notifier = new QSocketNotifier(terminationSignals, QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [notifier] {
+        notifier->setEnabled(false);
+        instance->terminate();
+    });
+}
+
+void finishLaunching() {
+    if (theDelegate != nullptr) {
+        theDelegate->applicationDidFinishLaunching();
+    }
+    heedSignals();
+}
+
+} // namespace
+
+Application& Application::shared() {
+    if (instance == nullptr) {
+        terminationSignals = linux_host::catchTerminationSignals();
+        Connection& connection = Connection::shared();
+        requireToBeAlone(connection);
+        preferX11();
+        createQtApplication();
+        instance = new Application;
+        linux_host::serveFromEventLoop(connection, [] { instance->terminate(); });
+    }
+    return *instance;
+}
+
+Application* Application::current() {
+    return instance;
+}
+
+void Application::setDelegate(ApplicationDelegate* delegate) {
+    theDelegate = delegate;
+}
+
+void Application::run() {
+    if (isTerminating) {
+        return;
+    }
+    std::atexit(endAfterLossOfServer);
+    dispatchAsyncOnMainQueue(finishLaunching);
+    QApplication::exec();
+    tellDelegateOfTermination(); // if something else has ended the loop
+    qtApplication.reset();
+}
+
+void Application::terminate() {
+    tellDelegateOfTermination();
+    QCoreApplication::quit();
+}
+
+bool Application::setActivationPolicy(ActivationPolicy policy) {
+    linux_host::setOwnActivationPolicy(policy);
+    return true;
+}
+
+} // namespace platform

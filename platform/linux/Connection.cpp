@@ -1,0 +1,72 @@
+#include "platform/linux/Connection.h"
+
+#include "platform/linux/Reply.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <xcb/randr.h>
+#include <xcb/res.h>
+
+namespace platform::linux_host {
+
+namespace {
+
+// Asked for ahead of the first use, so that finding out what the server can do costs no round trip
+// of its own.
+void prefetchExtensions(xcb_connection_t* connection) {
+    for (xcb_extension_t* const extension : {&xcb_res_id, &xcb_randr_id}) {
+        xcb_prefetch_extension_data(connection, extension);
+    }
+}
+
+const xcb_screen_t* screenOf(const xcb_setup_t* setup, int number) {
+    auto screens = xcb_setup_roots_iterator(setup);
+    for (; number > 0 && screens.rem > 1; --number) {
+        xcb_screen_next(&screens);
+    }
+    return screens.data;
+}
+
+} // namespace
+
+Connection& Connection::shared() {
+    static Connection* const connection = open();
+    return *connection;
+}
+
+Connection* Connection::open() {
+    int screenNumber = 0;
+    xcb_connection_t* const connection = xcb_connect(nullptr, &screenNumber);
+    if (xcb_connection_has_error(connection) != 0) {
+        const char* const display = std::getenv("DISPLAY");
+        std::fprintf(stderr, "quellbar: cannot open the X display \"%s\"\n",
+                     display != nullptr ? display : "");
+        std::exit(EXIT_FAILURE);
+    }
+    return new Connection(connection, screenNumber);
+}
+
+Connection::Connection(xcb_connection_t* connection, int screenNumber)
+    : connection_(connection), screenNumber_(screenNumber), setup_(xcb_get_setup(connection)),
+      screen_(screenOf(setup_, screenNumber)),
+      atoms_((prefetchExtensions(connection), connection)) {}
+
+void Connection::dispatchEvents() {
+    while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
+        const bool isError = event->response_type == 0;
+        if (isError) {
+            continue;
+        }
+        for (const EventHandler& handler : handlers_) {
+            handler(*event);
+        }
+    }
+}
+
+void Connection::finishTurn() {
+    dispatchEvents();
+    flush();
+    ++turn_;
+}
+
+} // namespace platform::linux_host

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "platform/linux/Atoms.h"
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+#include <xcb/xcb.h>
+
+namespace platform::linux_host {
+
+/// This host's own connection to the X server, beside Qt's: its errors, its key grabs and its event
+/// queue have nothing to do with Qt's. Main thread only.
+///
+/// Errors are data: no request of this connection is fatal, and an error that nobody asked for is
+/// dropped. After the server is gone every call returns at once with nothing.
+class Connection {
+  public:
+    /// The connection, opened by the first call, which ends the process with status 1 and a line on
+    /// standard error if there is no display. Stays open until the process ends.
+    static Connection& shared();
+
+    [[nodiscard]] xcb_connection_t* xcb() const { return connection_; }
+    [[nodiscard]] xcb_window_t root() const { return screen_->root; }
+    /// The number n of the screen in `DISPLAY` (":0.n").
+    [[nodiscard]] int screenNumber() const { return screenNumber_; }
+    [[nodiscard]] xcb_atom_t atom(Atom name) const { return atoms_[name]; }
+
+    /// The client that made a window, told by the part of the id that the server gave to it.
+    [[nodiscard]] std::uint32_t clientOf(xcb_window_t window) const {
+        return window & ~setup_->resource_id_mask;
+    }
+    /// What the server said about itself and this client at the start.
+    [[nodiscard]] const xcb_setup_t& setup() const { return *setup_; }
+
+    [[nodiscard]] bool isBroken() const { return xcb_connection_has_error(connection_) != 0; }
+
+    using EventHandler = std::function<void(const xcb_generic_event_t&)>;
+    /// Has every event from now on told to `handler`, which stays until the process ends.
+    void subscribe(EventHandler handler) { handlers_.push_back(std::move(handler)); }
+
+    /// Tells the subscribers all events that have arrived. To be called when the connection is
+    /// readable.
+    void dispatchEvents();
+
+    /// Ends a turn of the event loop; to be called before it waits. Dispatches too, because waiting
+    /// for a reply moves events from the socket into xcb's queue, where no notifier sees them, and
+    /// sends what the turn has left in the buffer.
+    void finishTurn();
+
+    /// Counts the turns of the event loop: what was read in an earlier turn is old.
+    [[nodiscard]] std::uint64_t turn() const { return turn_; }
+
+    /// Sends what is buffered. Requests without a reply wait in the buffer for this.
+    void flush() { xcb_flush(connection_); }
+
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+  private:
+    Connection(xcb_connection_t* connection, int screenNumber);
+    ~Connection() = default;
+    static Connection* open();
+
+    xcb_connection_t* connection_;
+    int screenNumber_;
+    const xcb_setup_t* setup_;
+    const xcb_screen_t* screen_;
+    Atoms atoms_;
+    std::vector<EventHandler> handlers_;
+    std::uint64_t turn_ = 0;
+};
+
+} // namespace platform::linux_host
