@@ -1,0 +1,71 @@
+#include "platform/linux/WindowSnapshot.h"
+
+#include "platform/linux/Clients.h"
+#include "platform/linux/Connection.h"
+#include "platform/linux/OwnProcess.h"
+#include "platform/linux/WindowList.h"
+
+#include <algorithm>
+
+namespace platform::linux_host {
+
+namespace {
+
+struct Latest {
+    std::weak_ptr<const WindowSnapshot> snapshot;
+    std::uint64_t turn = 0;
+};
+
+Latest& latest() {
+    static Latest instance;
+    return instance;
+}
+
+std::vector<ApplicationRecord> readApplications(Connection& connection) {
+    const auto list = readWindowList(connection);
+    if (!list) {
+        return {};
+    }
+    const WindowsRequest windowsRequest(connection, *list);
+    ClientsRequest clientsRequest(connection, *list);
+    const auto windows = windowsRequest.read();
+    const auto clients = clientsRequest.read();
+    return applicationsOf(windows, clients, ownProcess(clientsRequest.sharesProcessNumbers()));
+}
+
+} // namespace
+
+WindowSnapshot::WindowSnapshot(std::vector<ApplicationRecord> applications)
+    : applications_(std::move(applications)) {}
+
+WindowSnapshot::~WindowSnapshot() {
+    Connection::shared().flush();
+}
+
+std::shared_ptr<const WindowSnapshot> WindowSnapshot::take() {
+    Connection& connection = Connection::shared();
+    std::shared_ptr<const WindowSnapshot> snapshot(
+        new WindowSnapshot(readApplications(connection)));
+    latest() = {.snapshot = snapshot, .turn = connection.turn()};
+    return snapshot;
+}
+
+std::shared_ptr<const WindowSnapshot> WindowSnapshot::current() {
+    auto snapshot = latest().snapshot.lock();
+    const bool isOfThisTurn = latest().turn == Connection::shared().turn();
+    return snapshot && isOfThisTurn ? snapshot : take();
+}
+
+bool WindowSnapshot::isHeld() {
+    return !latest().snapshot.expired();
+}
+
+const ApplicationRecord* WindowSnapshot::find(ProcessIdentifier processIdentifier) const {
+    const auto found = std::find_if(applications_.begin(), applications_.end(),
+                                    [=](const ApplicationRecord& application) {
+                                        return application.processIdentifier == processIdentifier;
+                                    });
+    return found != applications_.end() ? &*found : nullptr;
+}
+
+} // namespace platform::linux_host

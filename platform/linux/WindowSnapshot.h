@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/linux/Applications.h"
+
+#include <memory>
+#include <vector>
+
+namespace platform::linux_host {
+
+class Connection;
+
+/// Every managed window and its application, as they were at one moment. Taking one costs two round
+/// trips to the X server however many windows there are, or three if the process of a client has to
+/// be found out from its windows. Reading it costs nothing.
+class WindowSnapshot {
+  public:
+    /// Takes one now.
+    static std::shared_ptr<const WindowSnapshot> take();
+
+    /// The one taken last if somebody still holds it and the event loop has not turned since, else
+    /// a new one. A list of applications holds its snapshot: so a pass over all applications and
+    /// their windows sees one moment, while a question outside such a pass is answered afresh.
+    static std::shared_ptr<const WindowSnapshot> current();
+
+    /// Whether somebody holds the one taken last, and so will send what is requested meanwhile.
+    static bool isHeld();
+
+    /// Bottom of the stack first. Empty when the desktop keeps no list.
+    [[nodiscard]] const std::vector<ApplicationRecord>& applications() const {
+        return applications_;
+    }
+    [[nodiscard]] const ApplicationRecord* find(ProcessIdentifier processIdentifier) const;
+
+    /// Sends the requests that were made while it was held.
+    ~WindowSnapshot();
+    WindowSnapshot(const WindowSnapshot&) = delete;
+    WindowSnapshot& operator=(const WindowSnapshot&) = delete;
+
+  private:
+    explicit WindowSnapshot(std::vector<ApplicationRecord> applications);
+
+    std::vector<ApplicationRecord> applications_;
+};
+
+} // namespace platform::linux_host
