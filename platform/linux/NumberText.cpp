@@ -30,7 +30,7 @@ std::size_t takeDigits(std::string_view& text) {
 }
 
 bool takeOneOf(std::string_view& text, std::string_view characters) {
-    const bool isNext = !text.empty() && characters.find(text.front()) != characters.npos;
+    const bool isNext = !text.empty() && characters.find(text.front()) != std::string_view::npos;
     text.remove_prefix(isNext ? 1 : 0);
     return isNext;
 }

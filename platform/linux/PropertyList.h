@@ -14,7 +14,7 @@ namespace platform::linux_host {
 
 [[nodiscard]] std::string jsonFrom(const DefaultsValue& value);
 
-/// `json` is valid JSON text. Empty when it is something that no setting can be.
-[[nodiscard]] std::optional<DefaultsValue> defaultsValueFrom(std::string_view json);
+/// The text is valid JSON. Empty when it is something that no setting can be.
+[[nodiscard]] std::optional<DefaultsValue> defaultsValueFrom(std::string_view text);
 
 } // namespace platform::linux_host

@@ -15,7 +15,7 @@ std::filesystem::path defaultsFile() {
     if (folder.empty()) {
         linux_host::logOnce("no home", "Quellbar: neither XDG_CONFIG_HOME nor HOME is an absolute "
                                        "path. Changed settings last until Quellbar ends.");
-        return folder;
+        return {};
     }
     return folder / "quellbar" / "defaults.json";
 }
