@@ -1,16 +1,5 @@
-#include "app/AppDelegate.h"
-
-namespace {
-
-platform::Application* app = nullptr;
-AppDelegate* delegate = nullptr; // kept here: the application does not retain its delegate
-
-} // namespace
+#include "app/Entry.h"
 
 int main() {
-    app = &platform::Application::shared();
-    delegate = new AppDelegate;
-    app->setDelegate(delegate);
-    app->run();
-    return 0;
+    return runQuellbar();
 }
