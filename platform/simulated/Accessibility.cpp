@@ -89,7 +89,10 @@ AXError UIElement::copyAttributeValue(std::string_view attribute, AttributeValue
         return AXError::attributeUnsupported;
     }
     const auto* const application = desktop().workspace.find(*pid);
-    return application == nullptr ? AXError::invalidUIElement : readWindows(*application, value);
+    if (application == nullptr || application->isTerminated()) {
+        return AXError::invalidUIElement;
+    }
+    return readWindows(*application, value);
 }
 
 AXError UIElement::setAttributeValue(std::string_view attribute, bool value) const {

@@ -72,9 +72,9 @@ std::vector<const RunningApplication*> Workspace::running() const {
 }
 
 RunningApplication* Workspace::find(platform::ProcessIdentifier processIdentifier) const {
-    const auto found = std::ranges::find_if(applications_, [&](const auto& application) {
-        return application->processIdentifier == processIdentifier && !application->isTerminated();
-    });
+    const auto found =
+        std::ranges::find(applications_, processIdentifier,
+                          [](const auto& application) { return application->processIdentifier; });
     return found == applications_.end() ? nullptr : found->get();
 }
 

@@ -84,7 +84,7 @@ class Workspace {
 
     [[nodiscard]] std::vector<const RunningApplication*> running() const;
 
-    /// The running application with this identifier, or null.
+    /// The application with this identifier, running or ended, or null.
     [[nodiscard]] RunningApplication* find(platform::ProcessIdentifier processIdentifier) const;
 
   private:

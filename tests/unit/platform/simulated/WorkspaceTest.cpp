@@ -43,11 +43,13 @@ TEST(SimulatedWorkspace, NoTwoApplicationsHaveTheSameIdentifier) {
     EXPECT_NE(desktop().workspace.launch("Mail").processIdentifier, first.processIdentifier);
 }
 
-TEST(SimulatedWorkspace, AnApplicationIsFoundByItsIdentifierWhileItRuns) {
+TEST(SimulatedWorkspace, AnApplicationIsFoundByItsIdentifierAlsoAfterItsEnd) {
     auto& mail = desktop().workspace.launch("Mail");
-    EXPECT_EQ(desktop().workspace.find(mail.processIdentifier), &mail);
+    const auto& terminal = desktop().workspace.launch("Terminal");
     mail.quit();
-    EXPECT_EQ(desktop().workspace.find(mail.processIdentifier), nullptr);
+    EXPECT_EQ(desktop().workspace.find(mail.processIdentifier), &mail);
+    EXPECT_EQ(desktop().workspace.find(terminal.processIdentifier), &terminal);
+    EXPECT_EQ(desktop().workspace.find(1), nullptr);
 }
 
 TEST(SimulatedWorkspace, CallsNameTheApplication) {
