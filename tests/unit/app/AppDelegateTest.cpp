@@ -1,0 +1,215 @@
+#include "app/AppDelegate.h"
+
+#include "hotkey/HotKeyManager.h"
+#include "platform/simulated/Desktop.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using platform::ActivationPolicy;
+using simulated::desktop;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr simulated::KeyCombination optionCommandM{46, 0x900};
+
+void store(const std::string& key, platform::DefaultsValue value) {
+    desktop().userDefaults.stored[key] = std::move(value);
+}
+
+/// The program with its delegate set, about to launch.
+class Launch : public testing::Test {
+  protected:
+    void SetUp() override {
+        platform::Application::shared().setDelegate(&delegate_);
+        desktop().calls.clear();
+    }
+
+    static void launch() { desktop().application.launch(); }
+    static void press() {
+        desktop().hotKeys.press(optionCommandM);
+        desktop().mainQueue.turnUntilIdle();
+    }
+
+    AppDelegate delegate_;
+};
+
+TEST_F(Launch, SetsThePolicyThenAsksForTrustThenInstallsTheShortcut) {
+    launch();
+    EXPECT_THAT(desktop().calls.all(),
+                ElementsAre(StartsWith("registerDefaults("), "boolForKey(enableDockIcon)",
+                            "setActivationPolicy(accessory)", "isProcessTrustedWithOptions(prompt)",
+                            "installHotKeyPressedHandler()", "boolForKey(shortcutsEnabled)",
+                            "dataForKey(minimizeShortcut)",
+                            "registerEventHotKey(46, 0x900, QLBR, 1)"));
+}
+
+TEST_F(Launch, ShowsNoDockIconUnlessItIsEnabled) {
+    launch();
+    EXPECT_EQ(desktop().application.self().activationPolicy, ActivationPolicy::accessory);
+}
+
+TEST_F(Launch, ShowsTheDockIconWhenItIsEnabled) {
+    store("enableDockIcon", true);
+    launch();
+    EXPECT_THAT(desktop().calls.of({"setActivationPolicy"}),
+                ElementsAre("setActivationPolicy(regular)"));
+    EXPECT_EQ(desktop().application.self().activationPolicy, ActivationPolicy::regular);
+}
+
+TEST_F(Launch, GoesOnWhenThePolicyIsRefused) {
+    desktop().application.refusesPolicy = true;
+    launch();
+    EXPECT_EQ(desktop().hotKeys.registrations().size(), 1U);
+}
+
+TEST_F(Launch, ShowsTheSystemsTrustPromptOnceAndGoesOn) {
+    desktop().accessibility.isTrusted = false;
+    launch();
+    EXPECT_EQ(desktop().accessibility.promptsShown(), 1);
+    EXPECT_EQ(desktop().hotKeys.registrations().size(), 1U);
+}
+
+TEST_F(Launch, MinimizesNothing) {
+    const auto& inbox = desktop().workspace.launch("Mail").openWindow("Inbox");
+    launch();
+    desktop().mainQueue.turnUntilIdle();
+    EXPECT_FALSE(inbox.isMinimized);
+}
+
+TEST_F(Launch, MakesTheShortcutMinimizeEveryWindow) {
+    const auto& inbox = desktop().workspace.launch("Mail").openWindow("Inbox");
+    launch();
+    press();
+    EXPECT_TRUE(inbox.isMinimized);
+}
+
+TEST_F(Launch, WithoutTrustThePressAsksForItAgain) {
+    desktop().accessibility.isTrusted = false;
+    launch();
+    press();
+    EXPECT_EQ(desktop().accessibility.promptsShown(), 2);
+}
+
+TEST_F(Launch, RegistersTheStoredShortcut) {
+    const std::string_view json = R"({"keyCode":12,"modifiers":256})";
+    store("minimizeShortcut", platform::Data(json.begin(), json.end()));
+    launch();
+    EXPECT_THAT(desktop().calls.of({"registerEventHotKey"}),
+                ElementsAre("registerEventHotKey(12, 0x100, QLBR, 1)"));
+}
+
+TEST_F(Launch, WithShortcutsOffRegistersNothingAndDoesNotReadTheShortcut) {
+    store("shortcutsEnabled", false);
+    launch();
+    EXPECT_THAT(desktop().calls.of({"registerEventHotKey", "dataForKey"}), IsEmpty());
+    EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
+}
+
+TEST_F(Launch, WithShortcutsOffSetsTheActionAllTheSame) {
+    const auto& inbox = desktop().workspace.launch("Mail").openWindow("Inbox");
+    store("shortcutsEnabled", false);
+    launch();
+    press();
+    EXPECT_FALSE(inbox.isMinimized);
+    ASSERT_TRUE(HotKeyManager::shared().onHotKey);
+    HotKeyManager::shared().onHotKey();
+    EXPECT_TRUE(inbox.isMinimized);
+}
+
+TEST_F(Launch, TheActionReadsNoSetting) {
+    launch();
+    desktop().calls.clear();
+    HotKeyManager::shared().onHotKey();
+    EXPECT_THAT(desktop().calls.all(), ElementsAre("isProcessTrusted()", "runningApplications()",
+                                                   "activationPolicy(Quellbar)"));
+}
+
+TEST_F(Launch, IsCompleteWithoutAHotKeyWhereAnotherClientHoldsTheCombination) {
+    desktop().hotKeys.holdElsewhere(optionCommandM);
+    launch();
+    EXPECT_EQ(desktop().calls.all().back(), "registerEventHotKey(46, 0x900, QLBR, 1)");
+    EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
+}
+
+TEST_F(Launch, ReadsEachSettingAtItsStep) {
+    desktop().calls.during("setActivationPolicy(accessory)",
+                           [] { store("shortcutsEnabled", false); });
+    launch();
+    EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
+}
+
+TEST_F(Launch, ReadsTheShortcutAfterTheSwitch) {
+    desktop().calls.during("boolForKey(shortcutsEnabled)", [] {
+        const std::string_view json = R"({"keyCode":12,"modifiers":256})";
+        store("minimizeShortcut", platform::Data(json.begin(), json.end()));
+    });
+    launch();
+    EXPECT_THAT(desktop().calls.all(), Contains("registerEventHotKey(12, 0x100, QLBR, 1)"));
+}
+
+TEST_F(Launch, StoresNothing) {
+    launch();
+    EXPECT_THAT(desktop().userDefaults.stored, IsEmpty());
+}
+
+TEST_F(Launch, ChangedSettingsAreNotAppliedAfterwards) {
+    launch();
+    desktop().calls.clear();
+    platform::UserDefaults::standard().setBool(true, "enableDockIcon");
+    platform::UserDefaults::standard().setBool(false, "shortcutsEnabled");
+    desktop().mainQueue.turnUntilIdle();
+    EXPECT_EQ(desktop().application.self().activationPolicy, ActivationPolicy::accessory);
+    EXPECT_EQ(desktop().hotKeys.registrations().size(), 1U);
+}
+
+TEST(LaunchDeathTest, WithoutAnApplicationObjectIsFatal) {
+    EXPECT_DEATH(AppDelegate().applicationDidFinishLaunching(),
+                 "Fatal error: the application object does not exist");
+}
+
+using Termination = Launch;
+
+TEST_F(Termination, UnregistersTheHotKeyAndNothingElse) {
+    launch();
+    desktop().calls.clear();
+    desktop().application.quit();
+    EXPECT_THAT(desktop().calls.all(), ElementsAre("unregisterEventHotKey(46, 0x900)"));
+    EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
+}
+
+TEST_F(Termination, LeavesTheActionAsItIs) {
+    launch();
+    desktop().application.quit();
+    EXPECT_TRUE(HotKeyManager::shared().onHotKey);
+}
+
+TEST_F(Termination, WithoutAHotKeyDoesNothing) {
+    store("shortcutsEnabled", false);
+    launch();
+    desktop().calls.clear();
+    desktop().application.quit();
+    EXPECT_THAT(desktop().calls.all(), IsEmpty());
+}
+
+TEST_F(Termination, AfterARefusedCombinationDoesNothing) {
+    desktop().hotKeys.holdElsewhere(optionCommandM);
+    launch();
+    desktop().application.quit();
+    EXPECT_THAT(desktop().calls.all(), Not(Contains(StartsWith("unregisterEventHotKey"))));
+}
+
+TEST_F(Termination, OfAPressThatStillWaitsRunsNothing) {
+    const auto& inbox = desktop().workspace.launch("Mail").openWindow("Inbox");
+    launch();
+    desktop().hotKeys.press(optionCommandM);
+    desktop().application.quit();
+    desktop().mainQueue.turnUntilIdle();
+    EXPECT_FALSE(inbox.isMinimized);
+}
+
+} // namespace
