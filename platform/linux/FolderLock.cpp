@@ -9,8 +9,8 @@
 namespace platform::linux_host {
 namespace {
 
-constexpr std::chrono::milliseconds pause{2};
-constexpr int mostAttempts = 50;
+constexpr std::chrono::milliseconds pause{5};
+constexpr int mostAttempts = 200;
 
 bool isHeldBySomebody(const FileDescriptor& folder) {
     return ::flock(folder.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;

@@ -8,7 +8,7 @@ namespace platform::linux_host {
 
 /// Keeps other instances of the program from writing in the folder (flock), so that a change of
 /// theirs is not overwritten by one that was read before it. Best effort: where the folder cannot
-/// be locked, or somebody holds the lock for a tenth of a second, the work goes on without.
+/// be locked, or somebody holds the lock for a second, the work goes on without.
 class FolderLock {
   public:
     explicit FolderLock(const std::filesystem::path& folder);

@@ -289,7 +289,7 @@ TEST_F(DefaultsStoreWriting, MakesTheFileThatALinkLeadsTo) {
 }
 
 TEST_F(DefaultsStoreWriting, TwoProcessesLoseNothingOfEachOther) {
-    constexpr int count = 10;
+    constexpr int count = 5;
     const auto writeKeys = [this](const std::string& prefix) {
         DefaultsStore own(file);
         for (int number = 0; number < count; ++number) {

@@ -1,7 +1,5 @@
 #include "platform/linux/PropertyList.h"
 
-#include "CommaLocale.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -77,16 +75,6 @@ TEST(PropertyList, WhatNoSettingCanBeIsNoValue) {
           R"([{"data": "AQID"}])"}) {
         EXPECT_EQ(defaultsValueFrom(json), std::nullopt) << json;
     }
-}
-
-TEST(PropertyList, TheLocaleDoesNotMatter) {
-    const CommaLocale locale;
-    if (!CommaLocale::isInForce()) {
-        GTEST_SKIP() << "no locale with a decimal comma, and the locales package to make one";
-    }
-    EXPECT_EQ(jsonFrom(1.5), "1.5");
-    EXPECT_EQ(defaultsValueFrom("1.5"), DefaultsValue(1.5));
-    EXPECT_EQ(defaultsValueFrom(R"(["1,5"])"), DefaultsValue(StringArray{"1,5"}));
 }
 
 } // namespace
