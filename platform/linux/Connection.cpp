@@ -52,21 +52,30 @@ Connection::Connection(xcb_connection_t* connection, int screenNumber)
       atoms_((prefetchExtensions(connection), connection)) {}
 
 void Connection::dispatchEvents() {
-    while (const Reply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
-        const bool isError = event->response_type == 0;
-        if (isError) {
-            continue;
-        }
-        for (const EventHandler& handler : handlers_) {
-            handler(*event);
-        }
-    }
+    dispatch(Reply<xcb_generic_event_t>(xcb_poll_for_event(connection_)));
+    dispatchQueuedEvents();
 }
 
 void Connection::finishTurn() {
-    dispatchEvents();
+    dispatchQueuedEvents();
     flush();
     ++turn_;
+}
+
+void Connection::dispatchQueuedEvents() {
+    while (auto event = Reply<xcb_generic_event_t>(xcb_poll_for_queued_event(connection_))) {
+        dispatch(std::move(event));
+    }
+}
+
+void Connection::dispatch(Reply<xcb_generic_event_t> event) {
+    const bool isError = event && event->response_type == 0;
+    if (!event || isError) {
+        return;
+    }
+    for (const EventHandler& handler : handlers_) {
+        handler(*event);
+    }
 }
 
 } // namespace platform::linux_host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/Atoms.h"
+#include "platform/linux/Reply.h"
 
 #include <cstdint>
 #include <functional>
@@ -39,13 +40,13 @@ class Connection {
     /// Has every event from now on told to `handler`, which stays until the process ends.
     void subscribe(EventHandler handler) { handlers_.push_back(std::move(handler)); }
 
-    /// Tells the subscribers all events that have arrived. To be called when the connection is
-    /// readable.
+    /// Reads what has arrived and tells it to the subscribers. To be called when the connection is
+    /// readable, and before answering from what events have told.
     void dispatchEvents();
 
-    /// Ends a turn of the event loop; to be called before it waits. Dispatches too, because waiting
-    /// for a reply moves events from the socket into xcb's queue, where no notifier sees them, and
-    /// sends what the turn has left in the buffer.
+    /// Ends a turn of the event loop; to be called before it waits. Sends what the turn has left in
+    /// the buffer. Tells events too, because waiting for a reply moves them from the socket into
+    /// xcb's queue, where no notifier sees them.
     void finishTurn();
 
     /// Counts the turns of the event loop: what was read in an earlier turn is old.
@@ -61,6 +62,8 @@ class Connection {
     Connection(xcb_connection_t* connection, int screenNumber);
     ~Connection() = default;
     static Connection* open();
+    void dispatchQueuedEvents();
+    void dispatch(Reply<xcb_generic_event_t> event);
 
     xcb_connection_t* connection_;
     int screenNumber_;
