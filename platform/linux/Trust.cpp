@@ -17,43 +17,73 @@ std::set<Distrust>& reported() {
     return instance;
 }
 
-PropertyRequest askForCheckWindow(Connection& connection, xcb_window_t window) {
-    return {connection, window, connection.atom(Atom::netSupportingWmCheck), XCB_ATOM_WINDOW};
-}
-
-xcb_window_t readCheckWindow(const PropertyRequest& request) {
-    const PropertyItems property = request.readItems();
+xcb_window_t windowNamedBy(Connection& connection, xcb_window_t window) {
+    const PropertyItems property =
+        PropertyRequest(connection, window, connection.atom(Atom::netSupportingWmCheck),
+                        XCB_ATOM_WINDOW)
+            .readItems();
     return property.items().empty() ? xcb_window_t{XCB_WINDOW_NONE} : property.items().front();
 }
 
-// The root's property outlives a window manager that is killed. Its window does not, so that window
-// has to be there and to name itself.
-class WindowManagerCheck {
-  public:
-    /// Asks. The window named last time is asked at once with the root: as a rule it is the same.
-    explicit WindowManagerCheck(Connection& connection)
-        : connection_(connection), root_(askForCheckWindow(connection, connection.root())),
-          expected_(askForCheckWindow(connection, expectedWindow)) {}
+bool keepsWindowList(Connection& connection) {
+    PropertyRequest request(connection, connection.root(), connection.atom(Atom::netSupported),
+                            XCB_ATOM_ATOM);
+    return request.readItems().contains(connection.atom(Atom::netClientList));
+}
 
-    bool read() {
-        const xcb_window_t named = readCheckWindow(root_);
-        const xcb_window_t expectedAnswer = readCheckWindow(expected_);
-        if (named == XCB_WINDOW_NONE) {
-            return false;
-        }
-        if (named == expectedWindow) {
-            return expectedAnswer == named;
-        }
-        expectedWindow = named;
-        return readCheckWindow(askForCheckWindow(connection_, named)) == named;
+void watchForEnd(Connection& connection, xcb_window_t window) {
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
+}
+
+// The window manager that was found to be good. It says so by a window of its own, which lives as
+// long as it does: until the X server tells of the end of that window there is nothing to ask.
+class WindowManager {
+  public:
+    static WindowManager& shared() {
+        static auto* const instance = new WindowManager(Connection::shared());
+        return *instance;
+    }
+
+    std::optional<Distrust> reasonForDistrust() {
+        connection_.dispatchEvents();
+        return window_ != XCB_WINDOW_NONE ? std::nullopt : lookForOne();
     }
 
   private:
-    static inline xcb_window_t expectedWindow = XCB_WINDOW_NONE;
+    explicit WindowManager(Connection& connection) : connection_(connection) {
+        connection_.subscribe([this](const xcb_generic_event_t& event) { noticeEnd(event); });
+    }
+
+    // The root's property outlives a window manager that is killed, its window does not: so the
+    // window has to be there and to name itself. The watch begins before the look, so that an end
+    // in between is noticed.
+    std::optional<Distrust> lookForOne() {
+        const xcb_window_t named = windowNamedBy(connection_, connection_.root());
+        if (named == XCB_WINDOW_NONE) {
+            return Distrust::noWindowManager;
+        }
+        watchForEnd(connection_, named);
+        if (windowNamedBy(connection_, named) != named) {
+            return Distrust::noWindowManager;
+        }
+        if (!keepsWindowList(connection_)) {
+            return Distrust::noWindowList;
+        }
+        window_ = named;
+        return std::nullopt;
+    }
+
+    void noticeEnd(const xcb_generic_event_t& event) {
+        constexpr std::uint8_t sentByClient = 0x80;
+        if ((event.response_type & ~sentByClient) == XCB_DESTROY_NOTIFY &&
+            reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_) {
+            window_ = XCB_WINDOW_NONE;
+        }
+    }
 
     Connection& connection_;
-    PropertyRequest root_;
-    PropertyRequest expected_;
+    xcb_window_t window_ = XCB_WINDOW_NONE; ///< none: not found yet, or ended
 };
 
 bool isOnXWayland(Connection& connection) {
@@ -81,18 +111,7 @@ std::optional<Distrust> reasonForDistrust() {
     if (isOnXWayland(connection)) {
         return Distrust::waylandServer;
     }
-    WindowManagerCheck windowManager(connection);
-    const PropertyRequest supportedRequest(connection, connection.root(),
-                                           connection.atom(Atom::netSupported), XCB_ATOM_ATOM);
-    const bool isManaged = windowManager.read();
-    const PropertyItems supported = supportedRequest.readItems();
-    if (!isManaged) {
-        return Distrust::noWindowManager;
-    }
-    if (!supported.contains(connection.atom(Atom::netClientList))) {
-        return Distrust::noWindowList;
-    }
-    return std::nullopt;
+    return WindowManager::shared().reasonForDistrust();
 }
 
 void reportDistrust(Distrust reason) {

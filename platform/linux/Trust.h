@@ -11,8 +11,8 @@ enum class Distrust {
     noWindowList,    ///< the window manager does not list the windows
 };
 
-/// Asks the desktop anew; null means that it can be worked with. One round trip to the X server, or
-/// two when the window manager is not the one of the last time.
+/// Null means that this desktop can be worked with at this moment. No round trip to the X server as
+/// long as the window manager is the one of the last time, else three.
 [[nodiscard]] std::optional<Distrust> reasonForDistrust();
 
 /// Writes a line for the user to the log, the first time for each reason since `forgetReports`.
