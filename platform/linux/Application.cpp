@@ -12,7 +12,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
 
 namespace platform {
 
@@ -21,10 +20,11 @@ using linux_host::Connection;
 namespace {
 
 Application* instance = nullptr;
-std::unique_ptr<QApplication> qtApplication;
+QApplication* qtApplication = nullptr;
 ApplicationDelegate* theDelegate = nullptr;
 int terminationSignals = -1;
 bool isTerminating = false;
+bool loopIsRunning = false;
 
 void requireToBeAlone(Connection& connection) {
     if (!linux_host::claimDisplay(connection)) {
@@ -48,7 +48,7 @@ void createQtApplication() {
     static std::array<char*, 2> arguments{name.data(), nullptr};
     static int argumentCount = 1;
     QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
-    qtApplication = std::make_unique<QApplication>(argumentCount, arguments.data());
+    qtApplication = new QApplication(argumentCount, arguments.data());
     QGuiApplication::setApplicationDisplayName("Quellbar");
     QGuiApplication::setDesktopFileName("io.github.quellbar.Quellbar");
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -64,13 +64,11 @@ void tellDelegateOfTermination() {
     }
 }
 
-// Qt calls exit() when it is the first to find that the X server is gone. That is an end like any
-// other: the delegate hears of it, and the status is that of `terminate()`. Not even Qt's own
-// destructors may run then, since they were not left a chance to come in order.
-void endAfterLossOfServer() {
-    Connection& connection = Connection::shared();
-    connection.dispatchEvents();
-    if (connection.isBroken() && !isTerminating) {
+// Qt calls exit() from within the loop when it is the first to find that the X server is gone. That
+// is an end like any other: the delegate hears of it, and the status is that of `terminate()`. What
+// would come after this, the destruction of static objects, is not fit to run inside the loop.
+void endWithServer() {
+    if (loopIsRunning) {
         tellDelegateOfTermination();
         std::_Exit(EXIT_SUCCESS);
     }
@@ -122,11 +120,13 @@ void Application::run() {
     if (isTerminating) {
         return;
     }
-    std::atexit(endAfterLossOfServer);
+    std::atexit(endWithServer);
     dispatchAsyncOnMainQueue(finishLaunching);
+    loopIsRunning = true;
     QApplication::exec();
+    loopIsRunning = false;
     tellDelegateOfTermination(); // if something else has ended the loop
-    qtApplication.reset();
+    delete qtApplication;
 }
 
 void Application::terminate() {
