@@ -3,7 +3,7 @@
 #include "platform/linux/Applications.h"
 
 #include <map>
-#include <optional>
+#include <set>
 #include <vector>
 #include <xcb/res.h>
 
@@ -11,28 +11,34 @@ namespace platform::linux_host {
 
 class Connection;
 
-/// Asks which processes stand behind the clients of many windows. Construct, then read once:
-/// whatever else is asked in between shares the round trip.
+/// Asks which processes stand behind the clients of many windows. All that is asked before the
+/// reading shares one round trip.
 class ClientsRequest {
   public:
-    ClientsRequest(Connection& connection, const std::vector<xcb_window_t>& windows);
+    explicit ClientsRequest(Connection& connection);
 
-    /// One record for each client. If the X server does not know the process of some, their windows
-    /// are asked, in one more round trip for all.
-    [[nodiscard]] std::vector<Client> read();
+    /// Asks about the windows' clients, so far as they have not been asked about yet.
+    void ask(const std::vector<xcb_window_t>& windows);
+
+    /// One record for each client of the windows, all of which have to have been asked about. If
+    /// the X server does not know the process of some, their windows are asked, in one more round
+    /// trip for all. To be called once.
+    [[nodiscard]] std::vector<Client> read(const std::vector<xcb_window_t>& windows);
 
     /// Whether the X server counts processes as this one does, which it does not when one of them
-    /// lives in a container. Only known after `read`.
+    /// lives in a container. Known after `read`.
     [[nodiscard]] bool sharesProcessNumbers() const { return sharesProcessNumbers_; }
 
   private:
-    void readServersAnswer();
-    void askTheirWindows();
+    using Processes = std::map<std::uint32_t, int>; ///< by client; remote ones have none
+
+    [[nodiscard]] Processes readServersAnswers();
+    void askTheirWindows(std::vector<Client>& clients,
+                         const std::map<std::uint32_t, xcb_window_t>& windows) const;
 
     Connection& connection_;
-    std::vector<Client> clients_;
-    std::map<std::uint32_t, xcb_window_t> windows_; ///< of each client, one
-    std::optional<xcb_res_query_client_ids_cookie_t> cookie_;
+    std::set<std::uint32_t> asked_;
+    std::vector<xcb_res_query_client_ids_cookie_t> cookies_;
     bool sharesProcessNumbers_ = true;
 };
 

@@ -31,19 +31,26 @@ PropertyRequest::PropertyRequest(Connection& connection, xcb_window_t window, xc
     : connection_(connection.xcb()),
       cookie_(xcb_get_property(connection_, keep, window, name, type, 0, wholeValue)) {}
 
-Reply<xcb_get_property_reply_t> PropertyRequest::read(std::uint8_t format) const {
-    Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie_, nullptr));
+PropertyRequest::~PropertyRequest() {
+    if (cookie_.sequence != 0) {
+        xcb_discard_reply(connection_, cookie_.sequence);
+    }
+}
+
+Reply<xcb_get_property_reply_t> PropertyRequest::read(std::uint8_t format) {
+    const auto cookie = std::exchange(cookie_, {});
+    Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection_, cookie, nullptr));
     if (reply && reply->format != format) {
         reply.reset();
     }
     return reply;
 }
 
-PropertyItems PropertyRequest::readItems() const {
+PropertyItems PropertyRequest::readItems() {
     return PropertyItems(read(32));
 }
 
-std::string PropertyRequest::readText() const {
+std::string PropertyRequest::readText() {
     const auto reply = read(8);
     if (!reply) {
         return {};

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace platform::linux_host {
 
@@ -26,21 +27,29 @@ class PropertyItems {
     Reply<xcb_get_property_reply_t> reply_;
 };
 
-/// A property that has been asked for. Ask for everything first and read afterwards: then all the
-/// answers together cost one round trip. Each request has to be read once.
+/// A property that has been asked for. Ask for everything first and read afterwards, in the order
+/// of asking: then all the answers together cost one round trip. What is not read is dropped.
 class PropertyRequest {
   public:
     PropertyRequest(Connection& connection, xcb_window_t window, xcb_atom_t name, xcb_atom_t type);
+    PropertyRequest(PropertyRequest&& other) noexcept
+        : connection_(other.connection_), cookie_(std::exchange(other.cookie_, {})) {}
+    PropertyRequest& operator=(PropertyRequest&& other) noexcept {
+        std::swap(connection_, other.connection_);
+        std::swap(cookie_, other.cookie_);
+        return *this;
+    }
+    ~PropertyRequest();
 
-    [[nodiscard]] PropertyItems readItems() const;
+    [[nodiscard]] PropertyItems readItems();
     /// The value of a text property; empty under the same conditions.
-    [[nodiscard]] std::string readText() const;
+    [[nodiscard]] std::string readText();
 
   private:
-    [[nodiscard]] Reply<xcb_get_property_reply_t> read(std::uint8_t format) const;
+    [[nodiscard]] Reply<xcb_get_property_reply_t> read(std::uint8_t format);
 
     xcb_connection_t* connection_;
-    xcb_get_property_cookie_t cookie_;
+    xcb_get_property_cookie_t cookie_; ///< sequence 0: answered, or moved from
 };
 
 } // namespace platform::linux_host

@@ -47,41 +47,43 @@ PropertyRequest askForAtoms(Connection& connection, xcb_window_t window, Atom na
     return {connection, window, connection.atom(name), XCB_ATOM_ATOM};
 }
 
-std::optional<std::vector<xcb_window_t>> windowsIn(const PropertyItems& list) {
-    if (!list.exists()) {
-        return std::nullopt;
-    }
-    return std::vector<xcb_window_t>(list.items().begin(), list.items().end());
+PropertyRequest askForList(Connection& connection, Atom name) {
+    return {connection, connection.root(), connection.atom(name), XCB_ATOM_WINDOW};
+}
+
+std::vector<xcb_window_t> windowsIn(const PropertyItems& list) {
+    return {list.items().begin(), list.items().end()};
 }
 
 } // namespace
 
-std::optional<std::vector<xcb_window_t>> readWindowList(Connection& connection) {
-    const auto askForWindows = [&connection](Atom name) {
-        return PropertyRequest(connection, connection.root(), connection.atom(name),
-                               XCB_ATOM_WINDOW);
-    };
-    const PropertyRequest stackingRequest = askForWindows(Atom::netClientListStacking);
-    const PropertyRequest mappingRequest = askForWindows(Atom::netClientList);
-    auto stacking = windowsIn(stackingRequest.readItems());
-    auto mapping = windowsIn(mappingRequest.readItems());
-    return stacking ? stacking : mapping;
+WindowListRequest::WindowListRequest(Connection& connection)
+    : connection_(connection), stacking_(askForList(connection, Atom::netClientListStacking)) {}
+
+std::optional<std::vector<xcb_window_t>> WindowListRequest::read() {
+    const PropertyItems stacking = stacking_.readItems();
+    if (stacking.exists()) {
+        return windowsIn(stacking);
+    }
+    const PropertyItems mapping = askForList(connection_, Atom::netClientList).readItems();
+    return mapping.exists() ? std::optional(windowsIn(mapping)) : std::nullopt;
 }
 
-WindowsRequest::WindowsRequest(Connection& connection, const std::vector<xcb_window_t>& windows)
-    : connection_(connection) {
-    pending_.reserve(windows.size());
+void WindowsRequest::ask(const std::vector<xcb_window_t>& windows) {
     for (const xcb_window_t window : windows) {
-        pending_.push_back({
-            .window = window,
-            .types = askForAtoms(connection, window, Atom::netWmWindowType),
-            .states = askForAtoms(connection, window, Atom::netWmState),
-            .allowedActions = askForAtoms(connection, window, Atom::netWmAllowedActions),
-        });
+        const bool isNew = indices_.try_emplace(window, pending_.size()).second;
+        if (isNew) {
+            pending_.push_back({
+                .window = window,
+                .types = askForAtoms(connection_, window, Atom::netWmWindowType),
+                .states = askForAtoms(connection_, window, Atom::netWmState),
+                .allowedActions = askForAtoms(connection_, window, Atom::netWmAllowedActions),
+            });
+        }
     }
 }
 
-ManagedWindow WindowsRequest::readOne(const Pending& pending) const {
+ManagedWindow WindowsRequest::readOne(Pending& pending) const {
     const PropertyItems types = pending.types.readItems();
     const PropertyItems states = pending.states.readItems();
     const PropertyItems actions = pending.allowedActions.readItems();
@@ -95,13 +97,19 @@ ManagedWindow WindowsRequest::readOne(const Pending& pending) const {
     };
 }
 
-std::vector<ManagedWindow> WindowsRequest::read() const {
-    std::vector<ManagedWindow> windows;
-    windows.reserve(pending_.size());
-    for (const Pending& pending : pending_) {
-        windows.push_back(readOne(pending));
+// The answers are taken in the order in which they come, which is cheap, and sorted afterwards.
+std::vector<ManagedWindow> WindowsRequest::read(const std::vector<xcb_window_t>& windows) {
+    std::vector<ManagedWindow> answers;
+    answers.reserve(pending_.size());
+    for (Pending& pending : pending_) {
+        answers.push_back(readOne(pending));
     }
-    return windows;
+    std::vector<ManagedWindow> records;
+    records.reserve(windows.size());
+    for (const xcb_window_t window : windows) {
+        records.push_back(answers[indices_.at(window)]);
+    }
+    return records;
 }
 
 } // namespace platform::linux_host

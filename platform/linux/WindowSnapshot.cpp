@@ -21,16 +21,25 @@ Latest& latest() {
     return instance;
 }
 
+// Most windows were there the last time already. They are asked about together with the list, so
+// that only new ones cost a second round trip.
 std::vector<ApplicationRecord> readApplications(Connection& connection) {
-    const auto list = readWindowList(connection);
-    if (!list) {
-        return {};
+    static std::vector<xcb_window_t> lastList;
+    WindowListRequest listRequest(connection);
+    WindowsRequest windowsRequest(connection);
+    ClientsRequest clientsRequest(connection);
+    windowsRequest.ask(lastList);
+    clientsRequest.ask(lastList);
+    lastList.clear();
+    if (auto list = listRequest.read()) {
+        lastList = std::move(*list);
+        windowsRequest.ask(lastList);
+        clientsRequest.ask(lastList);
+        const auto windows = windowsRequest.read(lastList);
+        const auto clients = clientsRequest.read(lastList);
+        return applicationsOf(windows, clients, ownProcess(clientsRequest.sharesProcessNumbers()));
     }
-    const WindowsRequest windowsRequest(connection, *list);
-    ClientsRequest clientsRequest(connection, *list);
-    const auto windows = windowsRequest.read();
-    const auto clients = clientsRequest.read();
-    return applicationsOf(windows, clients, ownProcess(clientsRequest.sharesProcessNumbers()));
+    return {};
 }
 
 } // namespace

@@ -9,9 +9,10 @@ namespace platform::linux_host {
 
 class Connection;
 
-/// Every managed window and its application, as they were at one moment. Taking one costs two round
-/// trips to the X server however many windows there are, or three if the process of a client has to
-/// be found out from its windows. Reading it costs nothing.
+/// Every managed window and its application, as they were at one moment. Taking one costs one round
+/// trip to the X server however many windows there are, one more if there are new ones since the
+/// last time, and one more if the X server does not know the process of some. Reading it costs
+/// nothing.
 class WindowSnapshot {
   public:
     /// Takes one now.

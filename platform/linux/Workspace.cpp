@@ -29,7 +29,7 @@ bool processIsGone(int processIdentifier) {
 
 // For what has no process here, being there means having a window.
 bool windowsAreGone(const std::vector<ManagedWindow>& windows) {
-    const auto list = linux_host::readWindowList(linux_host::Connection::shared());
+    const auto list = linux_host::WindowListRequest(linux_host::Connection::shared()).read();
     if (!list) {
         return true;
     }
