@@ -4,6 +4,7 @@
 #include "platform/linux/Properties.h"
 
 #include <unistd.h>
+#include <utility>
 
 namespace platform::linux_host {
 
@@ -48,6 +49,12 @@ ClientsRequest::ClientsRequest(Connection& connection) : connection_(connection)
     ask({connection.setup().resource_id_base});
 }
 
+ClientsRequest::~ClientsRequest() {
+    for (const auto cookie : cookies_) {
+        xcb_discard_reply(connection_.xcb(), cookie.sequence);
+    }
+}
+
 void ClientsRequest::ask(const std::vector<xcb_window_t>& windows) {
     std::vector<xcb_res_client_id_spec_t> specs;
     for (const xcb_window_t window : windows) {
@@ -82,7 +89,7 @@ std::vector<Client> ClientsRequest::read(const std::vector<xcb_window_t>& window
 
 ClientsRequest::Processes ClientsRequest::readServersAnswers() {
     Processes processes;
-    for (const auto cookie : cookies_) {
+    for (const auto cookie : std::exchange(cookies_, {})) {
         const Reply<xcb_res_query_client_ids_reply_t> reply(
             xcb_res_query_client_ids_reply(connection_.xcb(), cookie, nullptr));
         if (reply) {

@@ -16,6 +16,9 @@ class Connection;
 class ClientsRequest {
   public:
     explicit ClientsRequest(Connection& connection);
+    ~ClientsRequest();
+    ClientsRequest(const ClientsRequest&) = delete;
+    ClientsRequest& operator=(const ClientsRequest&) = delete;
 
     /// Asks about the windows' clients, so far as they have not been asked about yet.
     void ask(const std::vector<xcb_window_t>& windows);
@@ -38,7 +41,7 @@ class ClientsRequest {
 
     Connection& connection_;
     std::set<std::uint32_t> asked_;
-    std::vector<xcb_res_query_client_ids_cookie_t> cookies_;
+    std::vector<xcb_res_query_client_ids_cookie_t> cookies_; ///< not answered yet
     bool sharesProcessNumbers_ = true;
 };
 
