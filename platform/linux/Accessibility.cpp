@@ -2,6 +2,7 @@
 
 #include "platform/linux/Connection.h"
 #include "platform/linux/Trust.h"
+#include "platform/linux/WindowList.h"
 #include "platform/linux/WindowMessages.h"
 #include "platform/linux/WindowSnapshot.h"
 
@@ -27,6 +28,29 @@ bool isTrustedOrReport(bool report) {
         linux_host::reportDistrust(*reason);
     }
     return !reason;
+}
+
+// Within a pass over many windows nothing is waited for, and what is asked is sent at its end. For
+// a single window there is time to look whether it is still there.
+AXError send(void (*request)(Connection&, xcb_window_t), xcb_window_t window) {
+    Connection& connection = Connection::shared();
+    const bool isWithinPass = WindowSnapshot::isHeld();
+    if (connection.isBroken() || (!isWithinPass && !windowExists(connection, window))) {
+        return AXError::invalidUIElement;
+    }
+    request(connection, window);
+    if (!isWithinPass) {
+        connection.flush();
+    }
+    return AXError::success;
+}
+
+AXError minimize(const ManagedWindow& window) {
+    return mayBeMinimized(window) ? send(linux_host::askToMinimize, window.id) : AXError::failure;
+}
+
+AXError bringBack(const ManagedWindow& window) {
+    return send(linux_host::askToActivate, window.id);
 }
 
 std::vector<UIElement> windowsOf(const ApplicationRecord& application) {
@@ -74,22 +98,7 @@ AXError UIElement::setAttributeValue(std::string_view attribute, bool value) con
     if (window == nullptr || attribute != "AXMinimized") {
         return AXError::attributeUnsupported;
     }
-    if (value && !mayBeMinimized(*window)) {
-        return AXError::failure;
-    }
-    Connection& connection = Connection::shared();
-    if (connection.isBroken()) {
-        return AXError::cannotComplete;
-    }
-    if (value) {
-        linux_host::askToMinimize(connection, window->id);
-    } else {
-        linux_host::askToActivate(connection, window->id);
-    }
-    if (!WindowSnapshot::isHeld()) {
-        connection.flush();
-    }
-    return AXError::success;
+    return value ? minimize(*window) : bringBack(*window);
 }
 
 } // namespace platform

@@ -60,13 +60,11 @@ std::shared_ptr<const WindowSnapshot> WindowSnapshot::take() {
 }
 
 std::shared_ptr<const WindowSnapshot> WindowSnapshot::current() {
-    auto snapshot = latest().snapshot.lock();
-    const bool isOfThisTurn = latest().turn == Connection::shared().turn();
-    return snapshot && isOfThisTurn ? snapshot : take();
+    return isHeld() ? latest().snapshot.lock() : take();
 }
 
 bool WindowSnapshot::isHeld() {
-    return !latest().snapshot.expired();
+    return !latest().snapshot.expired() && latest().turn == Connection::shared().turn();
 }
 
 const ApplicationRecord* WindowSnapshot::find(ProcessIdentifier processIdentifier) const {

@@ -23,7 +23,8 @@ class WindowSnapshot {
     /// their windows sees one moment, while a question outside such a pass is answered afresh.
     static std::shared_ptr<const WindowSnapshot> current();
 
-    /// Whether somebody holds the one taken last, and so will send what is requested meanwhile.
+    /// Whether a pass is under way: somebody holds the one taken last, which will send what is
+    /// requested meanwhile, and the event loop has not turned since.
     static bool isHeld();
 
     /// Bottom of the stack first. Empty when the desktop keeps no list.
