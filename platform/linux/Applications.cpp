@@ -133,7 +133,9 @@ std::vector<ApplicationRecord> applicationsOf(const std::vector<ManagedWindow>& 
     }
     Grouping grouping(ownProcess);
     for (const ManagedWindow& window : windows) {
-        const Owner& owner = owners.try_emplace(window.client, window.client).first->second;
+        const Client unknown{.id = window.client, .localProcess = {}, .claimed = {}};
+        const Owner& owner =
+            owners.try_emplace(window.client, ownerOf(unknown, ownProcess)).first->second;
         grouping.applicationFor(owner).windows.push_back(window);
     }
     return grouping.finish();
