@@ -1,5 +1,6 @@
 #include "platform/linux/SingleInstance.h"
 
+#include "platform/MainQueue.h"
 #include "platform/linux/Connection.h"
 #include "platform/linux/Reply.h"
 
@@ -32,6 +33,33 @@ xcb_window_t createOwner(const Connection& connection) {
     return window;
 }
 
+// Whoever asks the owner of a selection for its value waits for an answer. There is no value, and
+// the answer says so.
+void refuseConversion(const Connection& connection, const xcb_selection_request_event_t& request) {
+    xcb_selection_notify_event_t refusal{};
+    refusal.response_type = XCB_SELECTION_NOTIFY;
+    refusal.time = request.time;
+    refusal.requestor = request.requestor;
+    refusal.selection = request.selection;
+    refusal.target = request.target;
+    refusal.property = XCB_ATOM_NONE;
+    xcb_send_event(connection.xcb(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&refusal));
+    xcb_flush(connection.xcb());
+}
+
+// The answer waits for its turn on the main queue: whoever has it knows that what happened before
+// the question has been dealt with, launching included.
+void answerQuestions(Connection& connection) {
+    connection.subscribe([&connection](const xcb_generic_event_t& event) {
+        if (event.response_type != XCB_SELECTION_REQUEST) {
+            return;
+        }
+        const auto& request = reinterpret_cast<const xcb_selection_request_event_t&>(event);
+        dispatchAsyncOnMainQueue([&connection, request] { refuseConversion(connection, request); });
+    });
+}
+
 } // namespace
 
 // Two programs that start at the same moment would both find the selection free: the server is held
@@ -46,6 +74,9 @@ bool claimDisplay(Connection& connection) {
     }
     xcb_ungrab_server(connection.xcb());
     connection.flush();
+    if (isFree) {
+        answerQuestions(connection);
+    }
     return isFree;
 }
 
