@@ -44,8 +44,9 @@ struct OtherValue {};
 using AttributeValue = std::variant<std::monostate, std::vector<UIElement>, OtherValue>;
 
 /// Something on the screen that belongs to an application: the application itself or one of its
-/// windows. A cheap value: copies name the same thing, and outliving it is harmless (calls on an
-/// element that is gone fail). Stands for AXUIElement on macOS, a window of a client on Linux.
+/// windows. A cheap value: copies name the same thing, and outliving it is harmless (a call on an
+/// element that is gone fails or does nothing). Stands for AXUIElement on macOS, a window of a
+/// client on Linux.
 class UIElement {
   public:
     /// The element of an application. Always succeeds, also for an application that is gone.
