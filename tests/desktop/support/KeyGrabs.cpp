@@ -1,6 +1,7 @@
 #include "tests/desktop/support/KeyGrabs.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace desktop {
 namespace {
@@ -43,6 +44,22 @@ void KeyGrabs::giveBack(const Chord& chord) {
     for (const std::uint16_t locks : lockVariants()) {
         ungrab(chord, locks);
     }
+    display_.sync();
+}
+
+void KeyGrabs::takeKeyboard() {
+    const auto cookie =
+        xcb_grab_keyboard(display_.connection(), 0, display_.root(), XCB_CURRENT_TIME,
+                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Reply<xcb_grab_keyboard_reply_t> reply(
+        xcb_grab_keyboard_reply(display_.connection(), cookie, nullptr));
+    if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) {
+        throw std::runtime_error("the keyboard could not be grabbed");
+    }
+}
+
+void KeyGrabs::giveBackKeyboard() {
+    xcb_ungrab_keyboard(display_.connection(), XCB_CURRENT_TIME);
     display_.sync();
 }
 

@@ -17,6 +17,10 @@ class KeyGrabs {
     bool take(const Chord& chord);
     void giveBack(const Chord& chord);
 
+    /// Takes the whole keyboard, as an open menu does. Throws std::runtime_error when refused.
+    void takeKeyboard();
+    void giveBackKeyboard();
+
     /// Whether another client holds the combination in every state of the lock keys.
     [[nodiscard]] bool isTaken(const Chord& chord);
     /// Whether no other client holds the combination in any state of the lock keys.

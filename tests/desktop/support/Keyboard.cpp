@@ -6,6 +6,7 @@
 #include <xcb/xtest.h>
 
 #include <algorithm>
+#include <thread>
 
 namespace desktop {
 
@@ -13,6 +14,12 @@ Keyboard::Keyboard(const std::string& display) : display_(display) {}
 
 void Keyboard::press(const Chord& chord) {
     down(chord);
+    up(chord);
+}
+
+void Keyboard::hold(const Chord& chord, std::chrono::milliseconds duration) {
+    down(chord);
+    std::this_thread::sleep_for(duration);
     up(chord);
 }
 

@@ -2,6 +2,7 @@
 
 #include "tests/desktop/support/XDisplay.h"
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -14,10 +15,12 @@ class VirtualDesktop;
 namespace key {
 inline constexpr xcb_keycode_t digit1 = 10;
 inline constexpr xcb_keycode_t q = 24;
+inline constexpr xcb_keycode_t o = 32;
 inline constexpr xcb_keycode_t leftControl = 37;
 inline constexpr xcb_keycode_t a = 38;
 inline constexpr xcb_keycode_t k = 45;
 inline constexpr xcb_keycode_t leftShift = 50;
+inline constexpr xcb_keycode_t n = 57;
 inline constexpr xcb_keycode_t m = 58;
 inline constexpr xcb_keycode_t leftAlt = 64;
 inline constexpr xcb_keycode_t capsLock = 66;
@@ -41,7 +44,10 @@ class Keyboard {
     /// Presses and releases all keys of a chord.
     void press(const Chord& chord);
 
-    /// Presses all keys of a chord, or releases them. In between, the last one repeats.
+    /// Presses all keys of a chord and releases them after a time, for which the last one repeats.
+    void hold(const Chord& chord, std::chrono::milliseconds duration);
+
+    /// Presses all keys of a chord, or releases them.
     void down(const Chord& chord);
     void up(const Chord& chord);
 

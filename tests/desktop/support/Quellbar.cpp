@@ -1,5 +1,7 @@
 #include "tests/desktop/support/Quellbar.h"
 
+#include "tests/desktop/support/Base64.h"
+
 #include <fstream>
 #include <stdexcept>
 
@@ -13,25 +15,6 @@ xcb_window_t ownerOf(const XDisplay& display, std::string_view selection) {
     const Reply<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(display.connection(), cookie, nullptr));
     return reply ? reply->owner : xcb_window_t{XCB_NONE};
-}
-
-std::string base64(std::string_view bytes) {
-    constexpr std::string_view digits =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string text;
-    unsigned bits = 0;
-    int count = 0;
-    for (const char byte : bytes) {
-        bits = (bits << 8U) | static_cast<unsigned char>(byte);
-        for (count += 8; count >= 6; count -= 6) {
-            text += digits[(bits >> static_cast<unsigned>(count - 6)) & 63U];
-        }
-    }
-    if (count > 0) {
-        text += digits[(bits << static_cast<unsigned>(6 - count)) & 63U];
-    }
-    text.resize((text.size() + 3) / 4 * 4, '=');
-    return text;
 }
 
 } // namespace
@@ -58,14 +41,9 @@ void Quellbar::waitUntilLaunched() {
     settle();
 }
 
-// The owner of a selection answers whoever asks for it, from its event loop. What an event before
-// the question has put off to the loop's next turn is done when a second question is answered.
+// The program owns a selection, and answers whoever asks for it when it has dealt with everything
+// that came before.
 void Quellbar::settle() {
-    askOnce();
-    askOnce();
-}
-
-void Quellbar::askOnce() {
     const xcb_window_t asker = xcb_generate_id(display_.connection());
     xcb_create_window(display_.connection(), XCB_COPY_FROM_PARENT, asker, display_.root(), 0, 0, 1,
                       1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
@@ -89,7 +67,7 @@ void storeDefaults(const VirtualDesktop& desktop, std::string_view text) {
 }
 
 std::string defaultsWithShortcut(std::string_view bytes) {
-    return R"({"minimizeShortcut": {"data": ")" + base64(bytes) + R"("}})";
+    return R"({"minimizeShortcut": {"data": ")" + base64Of(bytes) + R"("}})";
 }
 
 } // namespace desktop

@@ -37,7 +37,6 @@ class Quellbar {
 
   private:
     void waitUntilLaunched();
-    void askOnce();
 
     XDisplay display_;
     Log log_;

@@ -39,6 +39,9 @@ class VirtualDesktop {
     /// Ends the window manager.
     void endWindowManager(int signal = SIGKILL);
 
+    /// Ends the X server under everyone who uses it.
+    void endServer() { server_.process().end(); }
+
     /// Writes a picture of the screen; the folder must exist.
     void takePicture(const std::filesystem::path& pngFile) const;
 

@@ -47,6 +47,23 @@ std::uint32_t Windows::currentDesktop() const {
     return value.empty() ? 0 : value.front();
 }
 
+std::string Windows::title(xcb_window_t window) const {
+    const std::string title = display_.text(window, "_NET_WM_NAME");
+    return title.empty() ? display_.text(window, "WM_NAME") : title;
+}
+
+// Two names, each with a zero after it: the instance and the class.
+std::string Windows::application(xcb_window_t window) const {
+    const std::string names = display_.text(window, "WM_CLASS");
+    const auto instanceEnd = names.find('\0');
+    return instanceEnd == std::string::npos ? names : names.substr(instanceEnd + 1).c_str();
+}
+
+bool Windows::hasType(xcb_window_t window, WindowType type) const {
+    const auto types = display_.property(window, "_NET_WM_WINDOW_TYPE");
+    return std::ranges::find(types, display_.atom(atomName(type))) != types.end();
+}
+
 void Windows::waitUntilManaged(std::span<const xcb_window_t> windows) const {
     const xcb_window_t root = display_.root();
     const auto listsAll = [&](const std::vector<std::uint32_t>& list) {
@@ -54,8 +71,6 @@ void Windows::waitUntilManaged(std::span<const xcb_window_t> windows) const {
         return std::ranges::all_of(windows, [&](auto window) { return listed.contains(window); });
     };
     waitForProperty({&root, 1}, clientListProperty, listsAll, "windows in the manager's list");
-    const auto isThere = [](const std::vector<std::uint32_t>& value) { return !value.empty(); };
-    waitForProperty(windows, "WM_STATE", isThere, "the manager's first word on a window");
 }
 
 void Windows::waitUntilHidden(std::span<const xcb_window_t> windows) const {
@@ -81,6 +96,13 @@ void Windows::minimize(xcb_window_t window) const {
 
 void Windows::restore(xcb_window_t window) const {
     display_.messageToRoot(window, "_NET_ACTIVE_WINDOW", std::array{fromATaskBar});
+}
+
+void Windows::move(xcb_window_t window, int x, int y) const {
+    const std::array position{static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y)};
+    xcb_configure_window(display_.connection(), window, XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y,
+                         position.data());
+    display_.flush();
 }
 
 // Asks again and again: openbox forgets what it is asked between its announcement and the end of

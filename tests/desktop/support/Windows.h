@@ -27,6 +27,11 @@ class Windows {
     [[nodiscard]] bool isOnScreen(xcb_window_t window) const;
     [[nodiscard]] std::uint32_t currentDesktop() const;
 
+    [[nodiscard]] std::string title(xcb_window_t window) const;
+    /// The application's name, as the window tells it (the class of WM_CLASS).
+    [[nodiscard]] std::string application(xcb_window_t window) const;
+    [[nodiscard]] bool hasType(xcb_window_t window, WindowType type) const;
+
     void waitUntilManaged(std::span<const xcb_window_t> windows) const;
     void waitUntilHidden(std::span<const xcb_window_t> windows) const;
     void waitUntilShown(std::span<const xcb_window_t> windows) const;
@@ -40,6 +45,9 @@ class Windows {
     void minimize(xcb_window_t window) const;
     /// Brings a minimized window back, as a click on its task-bar entry does.
     void restore(xcb_window_t window) const;
+
+    /// Moves a window's frame; in pixels from the top left.
+    void move(xcb_window_t window, int x, int y) const;
 
     /// Returns when a manager that has announced itself takes windows, too.
     void waitForManager() const;

@@ -92,6 +92,11 @@ void XDisplay::setProperty(xcb_window_t window, std::string_view name, xcb_atom_
                         static_cast<std::uint32_t>(values.size()), values.data());
 }
 
+void XDisplay::setText(xcb_window_t window, std::string_view name, std::string_view text) const {
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window, atom(name), XCB_ATOM_STRING, 8,
+                        static_cast<std::uint32_t>(text.size()), text.data());
+}
+
 void XDisplay::messageToRoot(xcb_window_t window, std::string_view type,
                              std::span<const std::uint32_t> data) const {
     xcb_client_message_event_t message{};

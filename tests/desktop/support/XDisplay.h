@@ -50,6 +50,8 @@ class XDisplay {
     void setProperty(xcb_window_t window, std::string_view name, xcb_atom_t type,
                      std::span<const std::uint32_t> values) const;
 
+    void setText(xcb_window_t window, std::string_view name, std::string_view text) const;
+
     /// Sends a 32-bit client message about `window` to the root, as window managers expect it.
     void messageToRoot(xcb_window_t window, std::string_view type,
                        std::span<const std::uint32_t> data) const;

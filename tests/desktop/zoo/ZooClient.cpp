@@ -70,9 +70,9 @@ xcb_window_t ZooClient::create(const WindowSpec& spec) const {
 
 void ZooClient::name(xcb_window_t window, const WindowSpec& spec) const {
     using namespace std::string_view_literals;
-    setText(window, "WM_NAME", spec.title);
-    setText(window, "_NET_WM_NAME", spec.title);
-    setText(window, "WM_CLASS", "window_zoo\0Window_zoo\0"sv);
+    display_.setText(window, "WM_NAME", spec.title);
+    display_.setText(window, "_NET_WM_NAME", spec.title);
+    display_.setText(window, "WM_CLASS", "window_zoo\0Window_zoo\0"sv);
     if (spec.tellsPid) {
         const auto pid = static_cast<std::uint32_t>(getpid());
         display_.setProperty(window, "_NET_WM_PID", XCB_ATOM_CARDINAL, {&pid, 1});
@@ -100,13 +100,6 @@ void ZooClient::classify(xcb_window_t window, const WindowSpec& spec) const {
     if (spec.desktop) {
         display_.setProperty(window, "_NET_WM_DESKTOP", XCB_ATOM_CARDINAL, {&*spec.desktop, 1});
     }
-}
-
-void ZooClient::setText(xcb_window_t window, std::string_view property,
-                        std::string_view text) const {
-    xcb_change_property(display_.connection(), XCB_PROP_MODE_REPLACE, window,
-                        display_.atom(property), XCB_ATOM_STRING, 8,
-                        static_cast<std::uint32_t>(text.size()), text.data());
 }
 
 void ZooClient::setAtom(xcb_window_t window, std::string_view property,

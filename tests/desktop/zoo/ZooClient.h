@@ -29,7 +29,6 @@ class ZooClient {
     void name(xcb_window_t window, const WindowSpec& spec) const;
     void hint(xcb_window_t window, const WindowSpec& spec) const;
     void classify(xcb_window_t window, const WindowSpec& spec) const;
-    void setText(xcb_window_t window, std::string_view property, std::string_view text) const;
     void setAtom(xcb_window_t window, std::string_view property, std::string_view value) const;
     [[nodiscard]] bool saysMinimized(const xcb_generic_event_t& event) const;
 
