@@ -32,7 +32,7 @@ class DefaultsFile {
     [[nodiscard]] const Values& values();
 
     /// Puts the changes into the file, beside what is in it now. False when that is not possible:
-    /// the file is then as it was.
+    /// what was stored is then stored as before.
     bool store(const DefaultsValues& changes);
 
   private:
