@@ -109,6 +109,9 @@ Workspace& Workspace::shared() {
 std::vector<RunningApplication> Workspace::runningApplications() const {
     simulated::desktop().calls.record("runningApplications");
     std::vector<RunningApplication> snapshot;
+    if (!simulated::desktop().workspace.hasList) {
+        return snapshot;
+    }
     for (const auto* const application : simulated::desktop().workspace.running()) {
         snapshot.emplace_back(
             std::make_shared<RunningApplication::Peer>(RunningApplication::Peer{*application}));

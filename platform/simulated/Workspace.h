@@ -82,6 +82,10 @@ class Workspace {
     RunningApplication& launch(std::string name, platform::ActivationPolicy policy,
                                platform::ProcessIdentifier processIdentifier);
 
+    /// Fault: whether the desktop keeps a list of its applications at all.
+    bool hasList = true;
+
+    /// The applications that have not ended.
     [[nodiscard]] std::vector<const RunningApplication*> running() const;
 
     /// The application with this identifier, running or ended, or null.

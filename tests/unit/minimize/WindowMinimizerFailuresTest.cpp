@@ -52,6 +52,13 @@ TEST_F(WindowMinimizerWithoutTrust, MinimizesNothingEvenIfTrustIsGivenWhileTheSy
     EXPECT_TRUE(inbox_.isMinimized);
 }
 
+TEST_F(WindowMinimizerFailures, ADesktopWithoutAListOfApplicationsIsLeftAsItIs) {
+    desktop().workspace.hasList = false;
+    WindowMinimizer::minimizeAllWindows();
+    EXPECT_FALSE(inbox_.isMinimized);
+    EXPECT_THAT(desktop().calls.all(), ElementsAre("isProcessTrusted()", "runningApplications()"));
+}
+
 TEST_F(WindowMinimizerFailures, AnApplicationThatCannotBeReadIsPassedOver) {
     for (const auto error :
          {AXError::failure, AXError::invalidUIElement, AXError::cannotComplete,

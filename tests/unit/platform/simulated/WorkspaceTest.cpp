@@ -37,6 +37,12 @@ TEST(SimulatedWorkspace, ASnapshotStaysAsItWasTakenButKnowsWhoHasEnded) {
     EXPECT_THAT(snapshot(), SizeIs(1));
 }
 
+TEST(SimulatedWorkspace, WithoutAListNamesNobody) {
+    desktop().workspace.launch("Mail");
+    desktop().workspace.hasList = false;
+    EXPECT_THAT(snapshot(), IsEmpty());
+}
+
 TEST(SimulatedWorkspace, NoTwoApplicationsHaveTheSameIdentifier) {
     auto& first = desktop().workspace.launch("Mail");
     first.quit();
