@@ -31,13 +31,18 @@ bool keepsWindowList(Connection& connection) {
     return request.readItems().contains(connection.atom(Atom::netClientList));
 }
 
-void watchForEnd(Connection& connection, xcb_window_t window) {
-    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+void watch(Connection& connection, xcb_window_t window, std::uint32_t events) {
     xcb_change_window_attributes(connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
 }
 
+int kindOf(const xcb_generic_event_t& event) {
+    constexpr int sentByClient = 0x80;
+    return event.response_type & ~sentByClient;
+}
+
 // The window manager that was found to be good. It says so by a window of its own, which lives as
-// long as it does: until the X server tells of the end of that window there is nothing to ask.
+// long as it does, and by properties: until the X server tells that one of these is gone or has
+// changed there is nothing to ask.
 class WindowManager {
   public:
     static WindowManager& shared() {
@@ -52,7 +57,8 @@ class WindowManager {
 
   private:
     explicit WindowManager(Connection& connection) : connection_(connection) {
-        connection_.subscribe([this](const xcb_generic_event_t& event) { noticeEnd(event); });
+        connection_.subscribe([this](const xcb_generic_event_t& event) { noticeChange(event); });
+        watch(connection_, connection_.root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
     }
 
     // The root's property outlives a window manager that is killed, its window does not: so the
@@ -63,7 +69,7 @@ class WindowManager {
         if (named == XCB_WINDOW_NONE) {
             return Distrust::noWindowManager;
         }
-        watchForEnd(connection_, named);
+        watch(connection_, named, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
         if (windowNamedBy(connection_, named) != named) {
             return Distrust::noWindowManager;
         }
@@ -74,16 +80,28 @@ class WindowManager {
         return std::nullopt;
     }
 
-    void noticeEnd(const xcb_generic_event_t& event) {
-        constexpr std::uint8_t sentByClient = 0x80;
-        if ((event.response_type & ~sentByClient) == XCB_DESTROY_NOTIFY &&
-            reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_) {
+    void noticeChange(const xcb_generic_event_t& event) {
+        if (isItsEnd(event) || isAboutManagers(event)) {
             window_ = XCB_WINDOW_NONE;
         }
     }
 
+    [[nodiscard]] bool isItsEnd(const xcb_generic_event_t& event) const {
+        return kindOf(event) == XCB_DESTROY_NOTIFY &&
+               reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
+    }
+
+    [[nodiscard]] bool isAboutManagers(const xcb_generic_event_t& event) const {
+        if (kindOf(event) != XCB_PROPERTY_NOTIFY) {
+            return false;
+        }
+        const auto changed = reinterpret_cast<const xcb_property_notify_event_t&>(event).atom;
+        return changed == connection_.atom(Atom::netSupportingWmCheck) ||
+               changed == connection_.atom(Atom::netSupported);
+    }
+
     Connection& connection_;
-    xcb_window_t window_ = XCB_WINDOW_NONE; ///< none: not found yet, or ended
+    xcb_window_t window_ = XCB_WINDOW_NONE; ///< none: not found yet, ended or changed
 };
 
 bool isOnXWayland(Connection& connection) {
