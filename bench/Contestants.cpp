@@ -23,7 +23,9 @@ desktop::Command daemonCommand(const desktop::VirtualDesktop& desktop) {
     const auto file = desktop.configuration() / "sxhkdrc";
     std::ofstream(file) << "super + alt + 1\n  " << limitProgram() << "\n"
                         << "super + alt + q\n  " << shellLoop << "\n";
-    return desktop.command({"sxhkd", "-c", file.string()});
+    desktop::Command command = desktop.command({"sxhkd", "-c", file.string()});
+    command.environment["SHELL"] = "/bin/sh"; // it runs everything through the user's shell
+    return command;
 }
 
 } // namespace

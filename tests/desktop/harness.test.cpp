@@ -51,7 +51,7 @@ TEST(Process, WhatItStartedEndsWithIt) {
 
 TEST(Process, EndsWithAProcessThatIsKilled) {
     Channel channel;
-    Command child = shell("echo ready; sleep 1000");
+    Command child = shell("echo ready; exec sleep 1000");
     child.inherited = {{channel.farEnd(), STDOUT_FILENO}};
     EXPECT_EXIT(
         {

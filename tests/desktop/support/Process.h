@@ -42,7 +42,8 @@ struct Ended {
 };
 
 /// A process that this one started, in a process group of its own. Whatever it is and whatever it
-/// started in turn ends with this object, or with this process, should that be killed first.
+/// started in turn ends with this object. Should this process be killed first, the other one ends
+/// with it, but not what that started.
 class Process {
   public:
     /// Throws std::system_error when nothing could be started. A program that does not exist ends
