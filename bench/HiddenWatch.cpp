@@ -33,7 +33,8 @@ HiddenWatch::Moment HiddenWatch::waitForLast() {
 }
 
 void HiddenWatch::noteNextChange() {
-    const auto event = display_.nextEvent("a window to be minimized", desktop::Deadline());
+    const auto event =
+        display_.nextEvent("a window to be minimized", desktop::Deadline(std::chrono::seconds{3}));
     if (desktop::XDisplay::kindOf(*event) != XCB_PROPERTY_NOTIFY) {
         return;
     }
