@@ -30,8 +30,7 @@ constexpr std::array namedTypes{
     NamedType{Atom::netWmWindowTypeDnd, WindowType::other},
 };
 
-// Programs name their own kinds first and standard ones after them, as the window manager
-// specification asks them to.
+// Programs name their own kinds first and standard ones after them, as window managers expect.
 WindowType firstKnownType(const Connection& connection, const PropertyItems& types) {
     for (const xcb_atom_t type : types.items()) {
         for (const NamedType& named : namedTypes) {

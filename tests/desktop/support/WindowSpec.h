@@ -59,7 +59,7 @@ struct WindowSpec {
 /// The windows' ids, each with a space before it.
 [[nodiscard]] std::string listed(std::span<const xcb_window_t> windows);
 
-/// The form in which a specification travels to the process that opens the window.
+/// The form in which the order for a window travels to the process that opens the window.
 std::ostream& operator<<(std::ostream& stream, const WindowSpec& spec);
 std::istream& operator>>(std::istream& stream, WindowSpec& spec);
 
