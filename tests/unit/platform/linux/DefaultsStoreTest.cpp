@@ -88,6 +88,15 @@ TEST_F(DefaultsStoreReading, SeesAnotherFileOfTheSameSizeAndTime) {
     EXPECT_EQ(value("key"), DefaultsValue(std::int64_t{2}));
 }
 
+TEST_F(DefaultsStoreReading, SeesTheSameFileComeBack) {
+    folder.write(name, R"({"key": 1})");
+    EXPECT_EQ(value("key"), DefaultsValue(std::int64_t{1}));
+    fs::rename(file, folder.path() / "elsewhere");
+    EXPECT_EQ(value("key"), noValue);
+    fs::rename(folder.path() / "elsewhere", file);
+    EXPECT_EQ(value("key"), DefaultsValue(std::int64_t{1}));
+}
+
 TEST_F(DefaultsStoreReading, SeesALinkThatLeadsElsewhere) {
     folder.write("one", R"({"key": 1})");
     folder.write("two", R"({"key": 2})");
