@@ -1,7 +1,5 @@
 #include "platform/linux/Connection.h"
 
-#include "platform/linux/Reply.h"
-
 #include <cstdio>
 #include <cstdlib>
 #include <xcb/randr.h>
@@ -50,6 +48,13 @@ Connection::Connection(xcb_connection_t* connection, int screenNumber)
     : connection_(connection), screenNumber_(screenNumber), setup_(xcb_get_setup(connection)),
       screen_(screenOf(setup_, screenNumber)),
       atoms_((prefetchExtensions(connection), connection)) {}
+
+// The server serves a client's requests in order, so an answer to any says that the earlier ones are
+// done.
+void Connection::synchronize() {
+    const Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+}
 
 void Connection::dispatchEvents() {
     dispatch(Reply<xcb_generic_event_t>(xcb_poll_for_event(connection_)));

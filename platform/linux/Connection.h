@@ -54,6 +54,8 @@ class Connection {
 
     /// Sends what is buffered. Requests without a reply wait in the buffer for this.
     void flush() { xcb_flush(connection_); }
+    /// Sends what is buffered and waits until the server has done it. One round trip.
+    void synchronize();
 
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;

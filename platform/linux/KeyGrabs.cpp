@@ -62,7 +62,7 @@ void releaseGrabs(Connection& connection, const std::vector<KeyGrab>& grabs) {
     for (const KeyGrab& grab : grabs) {
         xcb_ungrab_key(connection.xcb(), grab.keycode, connection.root(), grab.modifiers);
     }
-    connection.flush();
+    connection.synchronize();
 }
 
 } // namespace platform::linux_host

@@ -30,7 +30,7 @@ struct KeyGrab {
 /// grabs have to be kept apart by the caller.
 [[nodiscard]] bool takeGrabs(Connection& connection, const std::vector<KeyGrab>& grabs);
 
-/// Gives the grabs back.
+/// Gives the grabs back; when it returns, other clients can have them. One round trip.
 void releaseGrabs(Connection& connection, const std::vector<KeyGrab>& grabs);
 
 } // namespace platform::linux_host
