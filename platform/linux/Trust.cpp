@@ -31,18 +31,14 @@ bool keepsWindowList(Connection& connection) {
     return request.readItems().contains(connection.atom(Atom::netClientList));
 }
 
-void watch(Connection& connection, xcb_window_t window, std::uint32_t events) {
+void watch(Connection& connection, xcb_window_t window) {
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(connection.xcb(), window, XCB_CW_EVENT_MASK, &events);
 }
 
-int kindOf(const xcb_generic_event_t& event) {
-    constexpr int sentByClient = 0x80;
-    return event.response_type & ~sentByClient;
-}
-
 // The window manager that was found to be good. It says so by a window of its own, which lives as
-// long as it does, and by properties: until the X server tells that one of these is gone or has
-// changed there is nothing to ask.
+// long as it does: until the X server tells that this window is gone or has changed there is
+// nothing to ask. The root window is not watched, because it changes with every move of the focus.
 class WindowManager {
   public:
     static WindowManager& shared() {
@@ -58,7 +54,6 @@ class WindowManager {
   private:
     explicit WindowManager(Connection& connection) : connection_(connection) {
         connection_.subscribe([this](const xcb_generic_event_t& event) { noticeChange(event); });
-        watch(connection_, connection_.root(), XCB_EVENT_MASK_PROPERTY_CHANGE);
     }
 
     // The root's property outlives a window manager that is killed, its window does not: so the
@@ -69,7 +64,7 @@ class WindowManager {
         if (named == XCB_WINDOW_NONE) {
             return Distrust::noWindowManager;
         }
-        watch(connection_, named, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
+        watch(connection_, named);
         if (windowNamedBy(connection_, named) != named) {
             return Distrust::noWindowManager;
         }
@@ -81,23 +76,21 @@ class WindowManager {
     }
 
     void noticeChange(const xcb_generic_event_t& event) {
-        if (isItsEnd(event) || isAboutManagers(event)) {
+        if (window_ != XCB_WINDOW_NONE && windowOf(event) == window_) {
             window_ = XCB_WINDOW_NONE;
         }
     }
 
-    [[nodiscard]] bool isItsEnd(const xcb_generic_event_t& event) const {
-        return kindOf(event) == XCB_DESTROY_NOTIFY &&
-               reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
-    }
-
-    [[nodiscard]] bool isAboutManagers(const xcb_generic_event_t& event) const {
-        if (kindOf(event) != XCB_PROPERTY_NOTIFY) {
-            return false;
+    // The window that has ended or has changed its word.
+    static xcb_window_t windowOf(const xcb_generic_event_t& event) {
+        switch (event.response_type) {
+        case XCB_DESTROY_NOTIFY:
+            return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window;
+        case XCB_PROPERTY_NOTIFY:
+            return reinterpret_cast<const xcb_property_notify_event_t&>(event).window;
+        default:
+            return XCB_WINDOW_NONE;
         }
-        const auto changed = reinterpret_cast<const xcb_property_notify_event_t&>(event).atom;
-        return changed == connection_.atom(Atom::netSupportingWmCheck) ||
-               changed == connection_.atom(Atom::netSupported);
     }
 
     Connection& connection_;
