@@ -16,8 +16,6 @@ namespace {
 // to be served before the map is read.
 constexpr std::chrono::milliseconds burst{20};
 
-constexpr std::uint8_t sentByClient = 0x80;
-
 // The number of the keyboard extension's events.
 std::optional<std::uint8_t> watchKeyboard(Connection& connection) {
     const auto firstEvent = setUpKeyboardExtension(connection);
@@ -38,9 +36,9 @@ HotKeyCenter& HotKeyCenter::shared() {
     return *instance;
 }
 
-// Changes are listened for before the map is read, so that none is missed in between.
+// Changes are listened for from before the map is read, so that none is missed in between.
 HotKeyCenter::HotKeyCenter(Connection& connection)
-    : connection_(connection), firstKeyboardEvent_(watchKeyboard(connection)), keymap_(connection) {
+    : connection_(connection), firstKeyboardEvent_(watchKeyboard(connection)) {
     connection_.subscribe([this](const xcb_generic_event_t& event) { handleEvent(event); });
     calm_.setSingleShot(true);
     calm_.setInterval(burst);
@@ -53,7 +51,7 @@ RegisteredHotKey HotKeyCenter::registerHotKey(std::uint32_t keyCode, std::uint32
     if (calm_.isActive()) {
         grabAgain();
     }
-    auto grabs = grabsOf(keyCode, carbonModifiers, keymap_);
+    auto grabs = grabsOf(keyCode, carbonModifiers, keymap());
     if (grabs.empty()) {
         return {.status = eventHotKeyInvalidErr, .hotKey = {}};
     }
@@ -81,12 +79,15 @@ bool HotKeyCenter::unregisterHotKey(EventHotKeyRef hotKey) {
     return true;
 }
 
+// What other clients send in place of the server has one bit more and so is nothing to us.
 void HotKeyCenter::handleEvent(const xcb_generic_event_t& event) {
     if (firstKeyboardEvent_ && quellbar_is_keyboard_change(&event, *firstKeyboardEvent_)) {
-        calm_.start();
+        if (!calm_.isActive()) {
+            calm_.start();
+        }
         return;
     }
-    switch (event.response_type & ~sentByClient) {
+    switch (event.response_type) {
     case XCB_KEY_PRESS:
         keyPressed(reinterpret_cast<const xcb_key_press_event_t&>(event));
         break;
@@ -148,7 +149,7 @@ HotKeyCenter::registrationFor(const xcb_key_press_event_t& event) const {
 // may now be the other's.
 void HotKeyCenter::grabAgain() {
     calm_.stop();
-    keymap_ = Keymap(connection_);
+    keymap_.reset();
     const bool isSame = std::all_of(registrations_.begin(), registrations_.end(),
                                     [this](const Registration& registration) {
                                         return registration.grabs == currentGrabsOf(registration);
@@ -167,8 +168,12 @@ void HotKeyCenter::grabAgain() {
     }
 }
 
-std::vector<KeyGrab> HotKeyCenter::currentGrabsOf(const Registration& registration) const {
-    return grabsOf(registration.keyCode, registration.carbonModifiers, keymap_);
+std::vector<KeyGrab> HotKeyCenter::currentGrabsOf(const Registration& registration) {
+    return grabsOf(registration.keyCode, registration.carbonModifiers, keymap());
+}
+
+const Keymap& HotKeyCenter::keymap() {
+    return keymap_ ? *keymap_ : keymap_.emplace(connection_);
 }
 
 // The server lets one client take a grab twice, so our own are compared here.

@@ -46,13 +46,14 @@ class HotKeyCenter {
     [[nodiscard]] const Registration* registrationFor(const xcb_key_press_event_t& event) const;
 
     void grabAgain();
-    [[nodiscard]] std::vector<KeyGrab> currentGrabsOf(const Registration& registration) const;
+    [[nodiscard]] std::vector<KeyGrab> currentGrabsOf(const Registration& registration);
+    [[nodiscard]] const Keymap& keymap();
     [[nodiscard]] bool take(const std::vector<KeyGrab>& grabs);
 
     Connection& connection_;
     std::optional<std::uint8_t> firstKeyboardEvent_;
-    Keymap keymap_;
-    QTimer calm_; ///< runs while the keyboard changes and the map is old
+    std::optional<Keymap> keymap_; ///< read when it is needed
+    QTimer calm_;                  ///< runs while the keyboard changes and the map is old
     std::vector<Registration> registrations_;
     std::uintptr_t lastHotKey_ = 0;
     xcb_keycode_t heldKey_ = 0; ///< of the hot key that is down; 0: none

@@ -28,7 +28,7 @@ struct ModifierBits {
 /// The keyboard as it is mapped at one moment.
 class Keymap {
   public:
-    /// Reads it from the server, in about a dozen round trips.
+    /// Reads it from the server, in a few round trips.
     explicit Keymap(Connection& connection);
 
     /// The X keycode of a key, found by its name in the map. A key that the map does not name has

@@ -21,8 +21,7 @@ void quellbar_watch_keyboard(xcb_connection_t* connection) {
 }
 
 bool quellbar_is_keyboard_change(const xcb_generic_event_t* event, uint8_t first_event) {
-    const uint8_t sent_by_client = 0x80;
-    if ((event->response_type & ~sent_by_client) != first_event) {
+    if (event->response_type != first_event) {
         return false;
     }
     /* All events of the extension share one number; the byte after it tells them apart. */
