@@ -2,7 +2,6 @@
 
 #include "platform/linux/Connection.h"
 #include "platform/linux/Trust.h"
-#include "platform/linux/WindowList.h"
 #include "platform/linux/WindowMessages.h"
 #include "platform/linux/WindowSnapshot.h"
 
@@ -30,16 +29,14 @@ bool isTrustedOrReport(bool report) {
     return !reason;
 }
 
-// Within a pass over many windows nothing is waited for, and what is asked is sent at its end. For
-// a single window there is time to look whether it is still there.
+// Within a pass over many windows, what is asked is sent at its end.
 AXError send(void (*request)(Connection&, xcb_window_t), xcb_window_t window) {
     Connection& connection = Connection::shared();
-    const bool isWithinPass = WindowSnapshot::isHeld();
-    if (connection.isBroken() || (!isWithinPass && !windowExists(connection, window))) {
-        return AXError::invalidUIElement;
+    if (connection.isBroken()) {
+        return AXError::cannotComplete;
     }
     request(connection, window);
-    if (!isWithinPass) {
+    if (!WindowSnapshot::isHeld()) {
         connection.flush();
     }
     return AXError::success;

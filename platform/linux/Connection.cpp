@@ -49,8 +49,8 @@ Connection::Connection(xcb_connection_t* connection, int screenNumber)
       screen_(screenOf(setup_, screenNumber)),
       atoms_((prefetchExtensions(connection), connection)) {}
 
-// The server serves a client's requests in order, so an answer to any says that the earlier ones are
-// done.
+// The server serves a client's requests in order, so an answer to any says that the earlier ones
+// are done.
 void Connection::synchronize() {
     const Reply<xcb_get_input_focus_reply_t> reply(
         xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));

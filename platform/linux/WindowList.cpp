@@ -56,12 +56,6 @@ std::vector<xcb_window_t> windowsIn(const PropertyItems& list) {
 
 } // namespace
 
-bool windowExists(Connection& connection, xcb_window_t window) {
-    const Reply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-        connection.xcb(), xcb_get_window_attributes(connection.xcb(), window), nullptr));
-    return reply != nullptr;
-}
-
 WindowListRequest::WindowListRequest(Connection& connection)
     : connection_(connection), stacking_(askForList(connection, Atom::netClientListStacking)) {}
 

@@ -11,9 +11,6 @@ namespace platform::linux_host {
 
 class Connection;
 
-/// Whether there is such a window. One round trip.
-[[nodiscard]] bool windowExists(Connection& connection, xcb_window_t window);
-
 /// Asks for the windows that the window manager manages. Construct, then read once: whatever is
 /// asked in between shares the round trip.
 class WindowListRequest {
