@@ -112,9 +112,9 @@ TEST(KeyComboCoding, NothingIsReadFromAnyBeginningOfTheText) {
 }
 
 TEST(KeyComboCoding, HugeAndDeepTextIsRefusedUnharmed) {
-    EXPECT_EQ(keyCombo(std::string(1'000'000, '[')), std::nullopt);
-    EXPECT_EQ(keyCombo(std::string(100'000, '[') + std::string(100'000, ']')), std::nullopt);
-    EXPECT_EQ(keyCombo(R"({"keyCode":)" + std::string(1'000'000, '9') + "}"), std::nullopt);
+    EXPECT_EQ(keyCombo(std::string(100'000, '[')), std::nullopt);
+    EXPECT_EQ(keyCombo(std::string(10'000, '[') + std::string(10'000, ']')), std::nullopt);
+    EXPECT_EQ(keyCombo(R"({"keyCode":)" + std::string(100'000, '9') + "}"), std::nullopt);
     EXPECT_EQ(keyCombo(std::string(1'000, '\0')), std::nullopt);
 }
 
