@@ -12,10 +12,8 @@ namespace {
 
 using namespace desktop;
 
-class Faults : public testing::Test {
+class FaultyManager : public testing::Test {
   protected:
-    void SetUp() override { session.launch(); }
-
     /// The windows that a press asks the manager to minimize.
     std::set<xcb_window_t> askedFor() {
         const std::size_t before = requests.soFar().size();
@@ -27,6 +25,11 @@ class Faults : public testing::Test {
     Session session{WindowManager::none};
     FakeWindowManager manager{session.desktop.display()};
     MinimizeRequests requests{session.desktop.display()};
+};
+
+class Faults : public FaultyManager {
+  protected:
+    void SetUp() override { session.launch(); }
 };
 
 TEST_F(Faults, TheManagerIsAskedForTheWindowsThatItLists) {
@@ -108,7 +111,7 @@ TEST_F(Faults, AWindowWhoseManagerAllowsEverythingButMinimizingIsNotAskedFor) {
     EXPECT_EQ(askedFor(), std::set{windows[1]});
 }
 
-TEST_F(Faults, AManagerWhoseWindowDoesNotNameItselfIsNone) {
+TEST_F(FaultyManager, WhoseWindowDoesNotNameItselfIsNone) {
     const auto window = session.application.open();
     manager.list({&window, 1});
     const auto& display = manager.display();
@@ -116,15 +119,17 @@ TEST_F(Faults, AManagerWhoseWindowDoesNotNameItselfIsNone) {
     display.setProperty(manager.checkWindow(), "_NET_SUPPORTING_WM_CHECK", XCB_ATOM_WINDOW,
                         {&other, 1});
     display.sync();
+    session.launch();
     EXPECT_TRUE(askedFor().empty());
 }
 
-TEST_F(Faults, AManagerThatKeepsNoListIsNone) {
+TEST_F(FaultyManager, ThatKeepsNoListIsNone) {
     const auto window = session.application.open();
     manager.list({&window, 1});
     const auto& display = manager.display();
     display.setProperty(display.root(), "_NET_SUPPORTED", XCB_ATOM_ATOM, {});
     display.sync();
+    session.launch();
     EXPECT_TRUE(askedFor().empty());
 }
 

@@ -1,5 +1,6 @@
 // The harness itself: what every other test here leans on.
 #include "tests/desktop/EveryManager.h"
+#include "tests/desktop/support/Base64.h"
 #include "tests/desktop/support/KeyGrabs.h"
 #include "tests/desktop/support/Keyboard.h"
 #include "tests/desktop/support/MinimizeRequests.h"
@@ -62,6 +63,20 @@ TEST(Process, EndsWithAProcessThatIsKilled) {
         testing::KilledBySignal(SIGKILL), "");
     channel.closeFarEnd();
     EXPECT_THROW(static_cast<void>(channel.nextLine()), ChannelClosed);
+}
+
+TEST(Base64, IsThatOfEveryOtherProgram) {
+    EXPECT_EQ(base64Of(""), "");
+    EXPECT_EQ(base64Of("f"), "Zg==");
+    EXPECT_EQ(base64Of("fo"), "Zm8=");
+    EXPECT_EQ(base64Of("foo"), "Zm9v");
+    EXPECT_EQ(base64Of("\xff\xfe"), "//4=");
+}
+
+TEST(Base64, GivesTheBytesBack) {
+    for (const std::string bytes : {"", "f", "fo", "foo", "\xff\xfe\xfd\xfc"}) {
+        EXPECT_EQ(bytesOf(base64Of(bytes)), bytes);
+    }
 }
 
 class OnEveryManager : public testing::TestWithParam<WindowManager> {};

@@ -152,11 +152,11 @@ TEST(LossOfTheWindowManager, LeavesWindowsAloneUntilAnotherOneIsThere) {
     EXPECT_TRUE(session.windows.isHidden(window));
 }
 
-TEST(LossOfTheDisplay, EndsTheProgram) {
+TEST(LossOfTheDisplay, EndsTheProgramInOrder) {
     VirtualDesktop desktop;
     Quellbar quellbar(desktop);
     desktop.endServer();
-    EXPECT_EQ(quellbar.process().wait().signal, std::nullopt);
+    EXPECT_EQ(quellbar.process().wait(), (Ended{.status = 0}));
 }
 
 } // namespace

@@ -48,11 +48,18 @@ TEST_P(DamagedSettings, AreReadAsFarAsTheyGoAndLeftAsTheyAre) {
     EXPECT_EQ(contents(file), GetParam());
 }
 
-TEST_F(Settings, OfManyMegabytesAreReadAndKept) {
-    storeDefaults(session.desktop, R"({"padding": ")" + std::string(20'000'000, 'x') + "\"}");
-    const auto size = fs::file_size(file);
+TEST_F(Settings, OfHalfAMegabyteAreRead) {
+    storeDefaults(session.desktop, R"({"padding": ")" + std::string(500'000, 'x') +
+                                       R"(", "shortcutsEnabled": false})");
+    session.launch();
+    EXPECT_FALSE(session.minimizesBy(defaultShortcut));
+}
+
+TEST_F(Settings, OfManyMegabytesReadAsNoneAndAreKept) {
+    storeDefaults(session.desktop, R"({"shortcutsEnabled": false})");
+    fs::resize_file(file, 50'000'000);
     expectTheDefaultShortcutToWork();
-    EXPECT_EQ(fs::file_size(file), size);
+    EXPECT_EQ(fs::file_size(file), 50'000'000U);
 }
 
 TEST_F(Settings, ThatAreAFolderReadAsNone) {

@@ -17,7 +17,7 @@ const Chord controlShiftK{.modifiers = {key::leftControl, key::leftShift}, .key 
 
 class Shortcut : public testing::Test {
   protected:
-    void setKeymap(std::vector<std::string> arguments) {
+    void setKeymap(std::vector<std::string> arguments) const {
         arguments.insert(arguments.begin(), "setxkbmap");
         run(session.desktop.command(std::move(arguments)));
     }

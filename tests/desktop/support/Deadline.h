@@ -14,10 +14,10 @@ class TimedOut : public std::runtime_error {
 };
 
 /// The moment until which something is waited for. It bounds a failure; no success depends on it,
-/// so it is generous enough for a busy machine.
+/// so it is generous enough for a machine that does much else.
 class Deadline {
   public:
-    explicit Deadline(std::chrono::milliseconds fromNow = std::chrono::seconds{20})
+    explicit Deadline(std::chrono::milliseconds fromNow = std::chrono::seconds{60})
         : moment_(std::chrono::steady_clock::now() + fromNow) {}
 
     [[nodiscard]] bool hasPassed() const { return std::chrono::steady_clock::now() >= moment_; }
