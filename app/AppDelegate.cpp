@@ -1,9 +1,12 @@
 #include "app/AppDelegate.h"
 
+#include "corners/CornerHoverMonitor.h"
 #include "hotkey/HotKeyManager.h"
+#include "keepawake/KeepAwakeManager.h"
 #include "minimize/WindowMinimizer.h"
 #include "platform/Accessibility.h"
 #include "platform/FatalError.h"
+#include "settings/LoginItemManager.h"
 #include "settings/Preferences.h"
 
 namespace {
@@ -41,12 +44,21 @@ void installShortcut() {
     }
 }
 
+// Renews the registration. Launching never removes one: without the wish, what is there stays.
+void renewLoginItem() {
+    if (setting(Preferences::autoLaunchAtLoginKey)) {
+        LoginItemManager::setEnabled(true);
+    }
+}
+
 } // namespace
 
 void AppDelegate::applicationDidFinishLaunching() {
     applyDockIcon(currentApplication());
     requestAccessibilityTrust();
     installShortcut();
+    CornerHoverMonitor::shared().start();
+    renewLoginItem();
 }
 
 void AppDelegate::applicationWillTerminate() {
