@@ -2,10 +2,16 @@
 
 #include "platform/simulated/Accessibility.h"
 #include "platform/simulated/Application.h"
+#include "platform/simulated/Bundle.h"
 #include "platform/simulated/Calls.h"
 #include "platform/simulated/Clock.h"
 #include "platform/simulated/HotKeys.h"
+#include "platform/simulated/Log.h"
+#include "platform/simulated/LoginItem.h"
 #include "platform/simulated/MainQueue.h"
+#include "platform/simulated/PowerAssertions.h"
+#include "platform/simulated/RunLoop.h"
+#include "platform/simulated/Screens.h"
 #include "platform/simulated/UserDefaults.h"
 #include "platform/simulated/Workspace.h"
 
@@ -25,6 +31,12 @@ struct Desktop {
     Accessibility accessibility;
     HotKeys hotKeys;
     Application application;
+    RunLoop runLoop;
+    PowerAssertions powerAssertions;
+    Screens screens;
+    LoginItem loginItem;
+    Bundle bundle;
+    Log log;
 };
 
 /// The one desktop of this process, made by the first call and never destroyed. Tests that share a
