@@ -63,4 +63,6 @@ void AppDelegate::applicationDidFinishLaunching() {
 
 void AppDelegate::applicationWillTerminate() {
     HotKeyManager::shared().unregisterHotKey();
+    CornerHoverMonitor::shared().stop();
+    KeepAwakeManager::shared().stop();
 }
