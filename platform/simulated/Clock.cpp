@@ -14,6 +14,14 @@ void requireForward(Clock::Duration duration) {
 
 } // namespace
 
+// Kept as a whole number and rounded once, here, so that many small steps add up to exactly the
+// time of one long one.
+platform::Date Clock::wallTime() const {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(wallTime_);
+    const std::chrono::duration<double> fraction = wallTime_ - seconds;
+    return {static_cast<double>(seconds.count()) + fraction.count()};
+}
+
 void Clock::advance(Duration duration) {
     requireForward(duration);
     uptime_ += duration;
@@ -26,7 +34,7 @@ void Clock::sleep(Duration duration) {
 }
 
 void Clock::setWallClockBy(Duration duration) {
-    wallTime_ = wallTime_ + std::chrono::duration<double>(duration).count();
+    wallTime_ += duration;
 }
 
 } // namespace simulated

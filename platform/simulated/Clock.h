@@ -16,7 +16,7 @@ class Clock {
     /// How long the machine has run.
     [[nodiscard]] Duration uptime() const { return uptime_; }
     /// What the wall clock says.
-    [[nodiscard]] platform::Date wallTime() const { return wallTime_; }
+    [[nodiscard]] platform::Date wallTime() const;
 
     /// Time passes. Misuse when it would run backwards.
     void advance(Duration duration);
@@ -30,7 +30,7 @@ class Clock {
 
   private:
     Duration uptime_{};
-    platform::Date wallTime_{800'000'000}; // a day in 2026
+    Duration wallTime_ = std::chrono::seconds(800'000'000); // since 2001: a day in 2026
 };
 
 } // namespace simulated

@@ -3,9 +3,18 @@
 #include "platform/simulated/Desktop.h"
 #include "platform/simulated/Misuse.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace simulated {
+
+bool PowerAssertions::displayStaysAwake() const {
+    return std::ranges::any_of(held_, [](const auto& entry) {
+        const Assertion& assertion = entry.second;
+        return assertion.type == "NoDisplaySleepAssertion" &&
+               assertion.level == platform::kIOPMAssertionLevelOn;
+    });
+}
 
 platform::CreatedPowerAssertion PowerAssertions::create(Assertion assertion) {
     if (createStatus != platform::kIOReturnSuccess) {
@@ -17,7 +26,10 @@ platform::CreatedPowerAssertion PowerAssertions::create(Assertion assertion) {
 
 platform::IOReturn PowerAssertions::release(platform::PowerAssertionID id) {
     if (!held_.contains(id)) {
-        misuse("power assertion " + std::to_string(id) + " is released, but is not held");
+        if (staleID == StaleID::isMisuse) {
+            misuse("power assertion " + std::to_string(id) + " is released, but is not held");
+        }
+        return platform::kIOReturnNotFound;
     }
     if (releaseStatus == platform::kIOReturnSuccess) {
         held_.erase(id);

@@ -18,20 +18,24 @@ class PowerAssertions {
         bool operator==(const Assertion&) const = default;
     };
 
+    enum class StaleID { isMisuse, isAnError };
+
     // Faults: what a call is answered with, in place of doing anything.
     platform::IOReturn createStatus = platform::kIOReturnSuccess;
     platform::IOReturn releaseStatus = platform::kIOReturnSuccess;
+    /// Releasing what is not held is answered with an error by a real desktop, but no program of
+    /// ours has reason to do it.
+    StaleID staleID = StaleID::isMisuse;
 
     /// What is held now, by its id.
     [[nodiscard]] const std::map<platform::PowerAssertionID, Assertion>& held() const {
         return held_;
     }
-    /// Whether anything keeps the display from sleeping.
-    [[nodiscard]] bool displayStaysAwake() const { return !held_.empty(); }
+    /// Whether anything keeps the display from sleeping: an assertion of that type that is on.
+    [[nodiscard]] bool displayStaysAwake() const;
 
     // For the seam.
     platform::CreatedPowerAssertion create(Assertion assertion);
-    /// Misuse when `id` names none that is held.
     platform::IOReturn release(platform::PowerAssertionID id);
 
   private:

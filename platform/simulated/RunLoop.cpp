@@ -24,12 +24,23 @@ Clock::Duration nextInPhase(Clock::Duration due, Clock::Duration interval, Clock
 } // namespace
 
 void RunLoop::run(Clock::Duration duration) {
+    if (duration < Clock::Duration::zero()) {
+        misuse("the run loop runs backwards");
+    }
+    if (std::exchange(isRunning_, true)) {
+        misuse("a timer or a task runs the run loop that runs it");
+    }
+    runUntil(desktop().clock.uptime() + duration);
+    isRunning_ = false;
+}
+
+void RunLoop::runUntil(Clock::Duration end) {
     Clock& clock = desktop().clock;
-    const Clock::Duration end = clock.uptime() + duration;
+    desktop().mainQueue.turnUntilIdle();
     while (Scheduled* const next = nextDueBy(end)) {
         clock.advance(std::max(next->due - clock.uptime(), Clock::Duration::zero()));
         fire(*next);
-        desktop().mainQueue.turn();
+        desktop().mainQueue.turnUntilIdle();
     }
     clock.advance(std::max(end - clock.uptime(), Clock::Duration::zero()));
 }

@@ -14,8 +14,9 @@ namespace simulated {
 class RunLoop {
   public:
     /// Lets time pass, firing every timer that comes due in order of its time (equal times in the
-    /// order of adding), and turning the main queue after each. Timers that a sleep or a slow
-    /// answer made late fire once for all that they missed, and keep their phase.
+    /// order of adding), and running the tasks of the main queue before time goes on. Timers that a
+    /// slow answer or a held menu made late fire once for all that they missed, and keep their
+    /// phase. Misuse from within a block that it runs, or when time would run backwards.
     void run(Clock::Duration duration);
 
     /// The user holds a menu open, or a control down: only timers of the common modes fire, until
@@ -39,11 +40,13 @@ class RunLoop {
         Clock::Duration due;
     };
 
+    void runUntil(Clock::Duration end);
     [[nodiscard]] bool mayFire(const Scheduled& scheduled) const;
     [[nodiscard]] Scheduled* nextDueBy(Clock::Duration moment);
     static void fire(Scheduled& scheduled);
 
     std::vector<Scheduled> timers_;
+    bool isRunning_ = false;
     bool isTracking_ = false;
 };
 
