@@ -32,6 +32,15 @@ enum NSApplicationActivationPolicy : NSInteger {
 // nil until sharedApplication has made the application.
 extern "C" NSApplication* NSApp;
 
+@interface NSEvent : NSObject
+@property (class, readonly) NSPoint mouseLocation;
+@end
+
+@interface NSScreen : NSObject
+@property (class, readonly) NSArray* screens;
+@property (readonly) NSRect frame;
+@end
+
 @interface NSRunningApplication : NSObject
 @property (readonly) NSApplicationActivationPolicy activationPolicy;
 @property (readonly, getter=isTerminated) BOOL terminated;

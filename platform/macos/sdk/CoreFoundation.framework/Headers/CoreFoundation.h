@@ -13,6 +13,7 @@ typedef UInt32 OptionBits;
 typedef unsigned long ByteCount;
 typedef unsigned long ItemCount;
 
+typedef double CFAbsoluteTime;
 typedef long CFIndex;
 typedef unsigned long CFTypeID;
 typedef const void* CFTypeRef;
@@ -20,6 +21,23 @@ typedef const struct OpaqueCFArray* CFArrayRef;
 typedef const struct OpaqueCFBoolean* CFBooleanRef;
 typedef const struct OpaqueCFDictionary* CFDictionaryRef;
 typedef const struct OpaqueCFString* CFStringRef;
+
+typedef double CGFloat;
+
+struct CGPoint {
+    CGFloat x;
+    CGFloat y;
+};
+
+struct CGSize {
+    CGFloat width;
+    CGFloat height;
+};
+
+struct CGRect {
+    CGPoint origin;
+    CGSize size;
+};
 
 extern "C" {
 
@@ -34,5 +52,7 @@ CFTypeID CFGetTypeID(CFTypeRef object);
 CFTypeID CFArrayGetTypeID(void);
 CFIndex CFArrayGetCount(CFArrayRef array);
 const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
+
+CFAbsoluteTime CFAbsoluteTimeGetCurrent(void);
 
 } // extern "C"

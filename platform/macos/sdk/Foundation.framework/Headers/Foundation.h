@@ -10,6 +10,11 @@
 @class NSDictionary;
 @class NSNotification;
 
+typedef double NSTimeInterval;
+typedef CGPoint NSPoint;
+typedef CGSize NSSize;
+typedef CGRect NSRect;
+
 // What `for (x in y)` compiles to.
 typedef struct {
     unsigned long state;
@@ -36,6 +41,11 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
                      encoding:(NSStringEncoding)encoding;
 - (NSUInteger)lengthOfBytesUsingEncoding:(NSStringEncoding)encoding;
 @property (readonly) const char* UTF8String;
+@end
+
+extern "C" void NSLog(NSString* format, ...) __attribute__((format(__NSString__, 1, 2)));
+
+@interface NSError : NSObject
 @end
 
 @interface NSValue : NSObject
@@ -68,6 +78,41 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 
 @interface NSMutableDictionary : NSDictionary
 - (void)setObject:(id)object forKey:(id<NSCopying>)key;
+@end
+
+@interface NSDate : NSObject
++ (instancetype)dateWithTimeIntervalSinceNow:(NSTimeInterval)seconds;
+@end
+
+@interface NSTimer : NSObject
++ (NSTimer*)timerWithTimeInterval:(NSTimeInterval)interval
+                          repeats:(BOOL)repeats
+                            block:(void (^)(NSTimer* timer))block;
++ (NSTimer*)scheduledTimerWithTimeInterval:(NSTimeInterval)interval
+                                   repeats:(BOOL)repeats
+                                     block:(void (^)(NSTimer* timer))block;
+- (void)invalidate;
+@property (copy) NSDate* fireDate;
+@property (readonly) NSTimeInterval timeInterval;
+@end
+
+typedef NSString* NSRunLoopMode;
+
+extern "C" {
+
+extern const NSRunLoopMode NSDefaultRunLoopMode;
+extern const NSRunLoopMode NSRunLoopCommonModes;
+
+} // extern "C"
+
+@interface NSRunLoop : NSObject
+@property (class, readonly) NSRunLoop* mainRunLoop;
+- (void)addTimer:(NSTimer*)timer forMode:(NSRunLoopMode)mode;
+@end
+
+@interface NSBundle : NSObject
+@property (class, readonly) NSBundle* mainBundle;
+@property (readonly) NSString* bundleIdentifier;
 @end
 
 @interface NSUserDefaults : NSObject
