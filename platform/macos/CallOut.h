@@ -5,7 +5,7 @@ namespace platform::macos {
 /// Runs a part of the program that the system called. An exception must not unwind through the
 /// system's own frames, where it would leave locks held and events half handled: it ends the
 /// process here.
-template <typename Call> // NOLINTNEXTLINE(bugprone-exception-escape): that is what it is for
+template <typename Call>
 decltype(auto) callOut(const Call& call) noexcept {
     return call();
 }
