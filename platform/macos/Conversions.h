@@ -2,13 +2,16 @@
 
 #include "platform/Accessibility.h"
 #include "platform/ActivationPolicy.h"
+#include "platform/Geometry.h"
 #include "platform/HotKeys.h"
+#include "platform/LoginItem.h"
 #include "platform/UserDefaults.h"
 #include "platform/macos/Holder.h"
 
 #import <AppKit/AppKit.h>
 #import <ApplicationServices/ApplicationServices.h>
 #import <Carbon/Carbon.h>
+#import <ServiceManagement/ServiceManagement.h>
 
 /// Every conversion between the seam's types and the system's, named after what it turns into what.
 /// Objects are lent to a conversion, and come from it in a holder.
@@ -40,6 +43,14 @@ defaultsValuesToNSDictionary(const std::map<std::string, DefaultsValue, std::les
 
 [[nodiscard]] NSApplicationActivationPolicy activationPolicyToNS(ActivationPolicy policy);
 [[nodiscard]] ActivationPolicy nsToActivationPolicy(NSApplicationActivationPolicy policy);
+
+/// Both count in points from the bottom left of the primary screen.
+[[nodiscard]] Point nsPointToPoint(NSPoint point);
+[[nodiscard]] Rect nsRectToRect(NSRect rect);
+
+[[nodiscard]] LoginItemStatus smToLoginItemStatus(SMAppServiceStatus status);
+/// Described as the system prints an error, with its domain and code.
+[[nodiscard]] LoginItemError nsErrorToLoginItemError(NSError* error);
 
 [[nodiscard]] AXError axToAXError(::AXError error);
 

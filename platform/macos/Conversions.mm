@@ -105,6 +105,29 @@ static_assert(static_cast<NSInteger>(ActivationPolicy::accessory) ==
 static_assert(static_cast<NSInteger>(ActivationPolicy::prohibited) ==
               NSApplicationActivationPolicyProhibited);
 
+Point nsPointToPoint(NSPoint point) {
+    return {point.x, point.y};
+}
+
+Rect nsRectToRect(NSRect rect) {
+    return {nsPointToPoint(rect.origin), {rect.size.width, rect.size.height}};
+}
+
+LoginItemStatus smToLoginItemStatus(SMAppServiceStatus status) {
+    return static_cast<LoginItemStatus>(status);
+}
+
+static_assert(static_cast<NSInteger>(LoginItemStatus::notRegistered) ==
+              SMAppServiceStatusNotRegistered);
+static_assert(static_cast<NSInteger>(LoginItemStatus::enabled) == SMAppServiceStatusEnabled);
+static_assert(static_cast<NSInteger>(LoginItemStatus::requiresApproval) ==
+              SMAppServiceStatusRequiresApproval);
+static_assert(static_cast<NSInteger>(LoginItemStatus::notFound) == SMAppServiceStatusNotFound);
+
+LoginItemError nsErrorToLoginItemError(NSError* error) {
+    return {nsStringToString(error.description)};
+}
+
 AXError axToAXError(::AXError error) {
     return static_cast<AXError>(error);
 }

@@ -15,6 +15,8 @@ LIBRARIES = {
     f"{FRAMEWORKS}/Carbon.framework/Versions/A/Carbon",
     f"{FRAMEWORKS}/CoreFoundation.framework/Versions/A/CoreFoundation",
     f"{FRAMEWORKS}/Foundation.framework/Versions/C/Foundation",
+    f"{FRAMEWORKS}/IOKit.framework/Versions/A/IOKit",
+    f"{FRAMEWORKS}/ServiceManagement.framework/Versions/A/ServiceManagement",
     "/usr/lib/libobjc.A.dylib",
     "/usr/lib/libSystem.B.dylib",
 }
