@@ -60,6 +60,12 @@ class Bundle(unittest.TestCase):
                 with self.subTest(program.architecture, symbol=symbol):
                     self.assertIn(library, LIBRARIES)
 
+    def testTheFormatsOfLogMessagesAreWhereTheLogLooksForThem(self):
+        for program in self.programs:
+            with self.subTest(program.architecture):
+                formats = program.section("__TEXT", "__oslogstring")
+                self.assertEqual(formats.split(b"\0"), [b"%{public}s", b""])
+
     def testTheArm64ProgramIsSignedAsItStands(self):
         signed = {p.architecture: p.is_signed_as_it_stands() for p in self.programs}
         self.assertTrue(signed["arm64"])

@@ -9,6 +9,7 @@ ARCHITECTURES = {0x01000007: "x86_64", 0x0100000C: "arm64"}
 
 LC_SYMTAB = 0x02
 LC_LOAD_DYLIB = 0x0C
+LC_SEGMENT_64 = 0x19
 LC_LOAD_WEAK_DYLIB = 0x80000018
 LC_REEXPORT_DYLIB = 0x8000001F
 LC_CODE_SIGNATURE = 0x1D
@@ -60,6 +61,17 @@ class Program:
             if kind & (DEBUGGING | DEFINED | EXTERNAL) == EXTERNAL:
                 ordinal = description >> 8
                 yield name, libraries[ordinal - 1] if 0 < ordinal <= len(libraries) else None
+
+    def section(self, segment, name):
+        """The bytes of a section; none if there is no such section."""
+        for offset in self._commands(LC_SEGMENT_64):
+            (count,) = struct.unpack_from("<I", self.data, offset + 64)
+            for section in range(offset + 72, offset + 72 + 80 * count, 80):
+                names = struct.unpack_from("<16s16s", self.data, section)
+                if [text.rstrip(b"\0").decode() for text in names] == [name, segment]:
+                    size, start = struct.unpack_from("<QI", self.data, section + 40)
+                    return self.data[start : start + size]
+        return b""
 
     def is_signed_as_it_stands(self):
         """Whether there is a signature, and every page still has the hash that it was given."""
