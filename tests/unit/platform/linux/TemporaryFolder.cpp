@@ -25,6 +25,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 void TemporaryFolder::write(const fs::path& name, std::string_view text) const {
+    fs::create_directories((path_ / name).parent_path());
     std::ofstream(path_ / name, std::ios::binary) << text;
     fs::last_write_time(path_ / name, fs::file_time_type::clock::now() - std::chrono::hours(1));
 }

@@ -16,8 +16,8 @@ class TemporaryFolder {
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
-    /// Overwrites the file in place or makes it; its time is set back, so that it counts as
-    /// settled.
+    /// Overwrites the file in place or makes it and the folders above it; its time is set back, so
+    /// that it counts as settled.
     void write(const std::filesystem::path& name, std::string_view text) const;
     [[nodiscard]] std::string read(const std::filesystem::path& name) const;
     /// The names in the folder, sorted.
