@@ -38,14 +38,17 @@ class Launch : public testing::Test {
     AppDelegate delegate_;
 };
 
-TEST_F(Launch, SetsThePolicyThenAsksForTrustThenInstallsTheShortcut) {
+TEST_F(Launch, TakesItsStepsInOrder) {
     launch();
     EXPECT_THAT(desktop().calls.all(),
                 ElementsAre(StartsWith("registerDefaults("), "boolForKey(enableDockIcon)",
                             "setActivationPolicy(accessory)", "isProcessTrustedWithOptions(prompt)",
                             "installHotKeyPressedHandler()", "boolForKey(shortcutsEnabled)",
                             "dataForKey(minimizeShortcut)",
-                            "registerEventHotKey(46, 0x900, QLBR, 1)"));
+                            "registerEventHotKey(46, 0x900, QLBR, 1)",
+                            "Timer::repeatingTimer(80 ms)", "addTimerToMainRunLoop(commonModes)",
+                            "stringArrayForKey(hotCorners)", StartsWith("Logger::log("),
+                            "boolForKey(autoLaunchAtLogin)"));
 }
 
 TEST_F(Launch, ShowsNoDockIconUnlessItIsEnabled) {
@@ -132,7 +135,7 @@ TEST_F(Launch, TheActionReadsNoSetting) {
 TEST_F(Launch, IsCompleteWithoutAHotKeyWhereAnotherClientHoldsTheCombination) {
     desktop().hotKeys.holdElsewhere(optionCommandM);
     launch();
-    EXPECT_EQ(desktop().calls.all().back(), "registerEventHotKey(46, 0x900, QLBR, 1)");
+    EXPECT_EQ(desktop().calls.all().back(), "boolForKey(autoLaunchAtLogin)");
     EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
 }
 
@@ -174,11 +177,11 @@ TEST(LaunchDeathTest, WithoutAnApplicationObjectIsFatal) {
 
 using Termination = Launch;
 
-TEST_F(Termination, UnregistersTheHotKeyAndNothingElse) {
+TEST_F(Termination, UnregistersTheHotKeyFirst) {
     launch();
     desktop().calls.clear();
     desktop().application.quit();
-    EXPECT_THAT(desktop().calls.all(), ElementsAre("unregisterEventHotKey(46, 0x900)"));
+    EXPECT_EQ(desktop().calls.all().front(), "unregisterEventHotKey(46, 0x900)");
     EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
 }
 
@@ -188,15 +191,15 @@ TEST_F(Termination, LeavesTheActionAsItIs) {
     EXPECT_TRUE(HotKeyManager::shared().onHotKey);
 }
 
-TEST_F(Termination, WithoutAHotKeyDoesNothing) {
+TEST_F(Termination, WithoutAHotKeyUnregistersNothing) {
     store("shortcutsEnabled", false);
     launch();
     desktop().calls.clear();
     desktop().application.quit();
-    EXPECT_THAT(desktop().calls.all(), IsEmpty());
+    EXPECT_THAT(desktop().calls.of({"unregisterEventHotKey"}), IsEmpty());
 }
 
-TEST_F(Termination, AfterARefusedCombinationDoesNothing) {
+TEST_F(Termination, AfterARefusedCombinationUnregistersNothing) {
     desktop().hotKeys.holdElsewhere(optionCommandM);
     launch();
     desktop().application.quit();
