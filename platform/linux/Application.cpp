@@ -3,6 +3,7 @@
 #include "platform/MainQueue.h"
 #include "platform/linux/Connection.h"
 #include "platform/linux/EventPump.h"
+#include "platform/linux/LaunchPhase.h"
 #include "platform/linux/OwnProcess.h"
 #include "platform/linux/Signals.h"
 #include "platform/linux/SingleInstance.h"
@@ -90,6 +91,7 @@ void finishLaunching() {
     if (theDelegate != nullptr) {
         theDelegate->applicationDidFinishLaunching();
     }
+    linux_host::endLaunch();
     heedSignals();
 }
 

@@ -56,6 +56,11 @@ void Connection::synchronize() {
         xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
 }
 
+void Connection::selectOnRoot(std::uint32_t eventMask) {
+    rootEvents_ |= eventMask;
+    xcb_change_window_attributes(connection_, root(), XCB_CW_EVENT_MASK, &rootEvents_);
+}
+
 void Connection::dispatchEvents() {
     dispatch(Reply<xcb_generic_event_t>(xcb_poll_for_event(connection_)));
     dispatchQueuedEvents();

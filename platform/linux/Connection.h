@@ -23,6 +23,8 @@ class Connection {
 
     [[nodiscard]] xcb_connection_t* xcb() const { return connection_; }
     [[nodiscard]] xcb_window_t root() const { return screen_->root; }
+    /// The screen as it was at the start.
+    [[nodiscard]] const xcb_screen_t& screen() const { return *screen_; }
     /// The number n of the screen in `DISPLAY` (":0.n").
     [[nodiscard]] int screenNumber() const { return screenNumber_; }
     [[nodiscard]] xcb_atom_t atom(Atom name) const { return atoms_[name]; }
@@ -39,6 +41,9 @@ class Connection {
     using EventHandler = std::function<void(const xcb_generic_event_t&)>;
     /// Has every event from now on told to `handler`, which stays until the process ends.
     void subscribe(EventHandler handler) { handlers_.push_back(std::move(handler)); }
+
+    /// Has these events of the root window sent, beside those that were selected before.
+    void selectOnRoot(std::uint32_t eventMask);
 
     /// Reads what has arrived and tells it to the subscribers. To be called when the connection is
     /// readable, and before answering from what events have told.
@@ -73,6 +78,7 @@ class Connection {
     const xcb_screen_t* screen_;
     Atoms atoms_;
     std::vector<EventHandler> handlers_;
+    std::uint32_t rootEvents_ = XCB_EVENT_MASK_NO_EVENT;
     std::uint64_t turn_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "contract/World.h"
 #include "platform/simulated/Desktop.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -12,10 +13,16 @@ simulated::KeyCombination keys(KeyCombination combination) {
     return {combination.keyCode, combination.modifiers};
 }
 
+constexpr auto patience = std::chrono::minutes(1);
+constexpr auto step = std::chrono::milliseconds(5);
+
 class SimulatedWorld final : public contract::World {
   public:
     // The suites ask for the answers that misuse gets, too.
-    SimulatedWorld() { desktop().hotKeys.staleRef = simulated::HotKeys::StaleRef::isAnError; }
+    SimulatedWorld() {
+        desktop().hotKeys.staleRef = simulated::HotKeys::StaleRef::isAnError;
+        desktop().powerAssertions.staleID = simulated::PowerAssertions::StaleID::isAnError;
+    }
 
     platform::ProcessIdentifier start(platform::ActivationPolicy policy,
                                       const std::vector<std::string>& windows) override {
@@ -62,12 +69,45 @@ class SimulatedWorld final : public contract::World {
         desktop().userDefaults.isWritable = false;
     }
 
+    void arrangeScreens(const std::vector<platform::Rect>& frames) override {
+        desktop().screens.screens.clear();
+        for (const platform::Rect& frame : frames) {
+            desktop().screens.screens.push_back({frame});
+        }
+    }
+    void movePointer(platform::Point to) override { desktop().screens.pointer = to; }
+
+    double wallTime() override { return desktop().clock.wallTime().seconds; }
+
+    bool displayStaysAwake() override { return desktop().powerAssertions.displayStaysAwake(); }
+
+    bool startsAtLogin() override {
+        return desktop().loginItem.status == platform::LoginItemStatus::enabled;
+    }
+    void turnLoginItemOff() override {
+        desktop().loginItem.status = platform::LoginItemStatus::requiresApproval;
+    }
+    void loseLoginItems() override {
+        desktop().loginItem.registerError = "the service cannot be reached";
+        desktop().loginItem.unregisterError = "the service cannot be reached";
+    }
+
+    bool hasLogged(const std::string& text) override {
+        const auto holdsText = [&](const std::string& line) {
+            return line.find(text) != std::string::npos;
+        };
+        return std::ranges::any_of(desktop().log.lines, holdsText) ||
+               std::ranges::any_of(desktop().log.messages, holdsText,
+                                   &simulated::Log::Message::text);
+    }
+
     bool turnUntil(const std::function<bool()>& condition) override {
+        const auto end = desktop().clock.uptime() + patience;
         while (!condition()) {
-            if (desktop().mainQueue.waiting() == 0) {
+            if (desktop().clock.uptime() >= end) {
                 return false;
             }
-            desktop().mainQueue.turn();
+            desktop().runLoop.run(step);
         }
         return true;
     }

@@ -2,6 +2,7 @@
 
 #include "platform/ActivationPolicy.h"
 #include "platform/Application.h"
+#include "platform/Geometry.h"
 #include "platform/UserDefaults.h"
 #include "platform/Workspace.h"
 
@@ -66,6 +67,30 @@ class World {
     [[nodiscard]] virtual std::optional<platform::DefaultsValue> stored(const std::string& key) = 0;
     /// From now on nobody can read or write the settings.
     virtual void loseStore() = 0;
+
+    // The screens and the pointer, in points of the global screen coordinates.
+
+    /// Arranges the screens, the primary one first.
+    virtual void arrangeScreens(const std::vector<platform::Rect>& frames) = 0;
+    virtual void movePointer(platform::Point to) = 0;
+
+    /// What the user's clock says, in seconds since 1 January 2001, 00:00 UTC.
+    [[nodiscard]] virtual double wallTime() = 0;
+
+    /// Whether the display would stay awake now if the user did nothing.
+    [[nodiscard]] virtual bool displayStaysAwake() = 0;
+
+    // The login item of this program.
+
+    /// Whether the desktop would start this program if the user logged in now.
+    [[nodiscard]] virtual bool startsAtLogin() = 0;
+    /// The user turns a registered item off in the desktop's own settings.
+    virtual void turnLoginItemOff() = 0;
+    /// From now on the registration cannot be changed.
+    virtual void loseLoginItems() = 0;
+
+    /// Whether a line of one of the system's logs, written by this program, holds this text.
+    [[nodiscard]] virtual bool hasLogged(const std::string& text) = 0;
 
     /// Turns this program's run loop until the condition holds. False when it does not come to hold
     /// within the world's patience.
