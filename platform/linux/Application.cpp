@@ -1,6 +1,7 @@
 #include "platform/Application.h"
 
 #include "platform/MainQueue.h"
+#include "platform/linux/ApplicationId.h"
 #include "platform/linux/Connection.h"
 #include "platform/linux/EventPump.h"
 #include "platform/linux/LaunchPhase.h"
@@ -51,7 +52,7 @@ void createQtApplication() {
     QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
     qtApplication = new QApplication(argumentCount, arguments.data());
     QGuiApplication::setApplicationDisplayName("Quellbar");
-    QGuiApplication::setDesktopFileName("io.github.quellbar.Quellbar");
+    QGuiApplication::setDesktopFileName(QString::fromUtf8(linux_host::applicationId));
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 

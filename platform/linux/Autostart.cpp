@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t mostBytes = 64 * 1024; // of an entry that is looked at
+constexpr std::size_t mostBytes = 65'536; // of an entry that is looked at
 
 // No OnlyShowIn, so that every desktop heeds it. Version 1.4 is the newest that Debian 12's
 // validator knows.

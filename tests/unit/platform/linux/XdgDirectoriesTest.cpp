@@ -6,7 +6,11 @@
 
 namespace {
 
+using platform::linux_host::absolutePathsIn;
+using platform::linux_host::configDirectories;
 using platform::linux_host::configHome;
+
+using Paths = std::vector<std::filesystem::path>;
 
 void setOrUnset(const char* variable, const char* value) {
     if (value == nullptr) {
@@ -41,6 +45,24 @@ TEST(ConfigHome, IsNowhereWithoutAHomeFolder) {
     EXPECT_EQ(configHomeWith(nullptr, nullptr), "");
     EXPECT_EQ(configHomeWith("", ""), "");
     EXPECT_EQ(configHomeWith(nullptr, "home/user"), "");
+}
+
+TEST(ConfigDirectories, AreWhatTheVariableSaysInItsOrder) {
+    setOrUnset("XDG_CONFIG_DIRS", "/one:/two");
+    EXPECT_EQ(configDirectories(), (Paths{"/one", "/two"}));
+}
+
+TEST(ConfigDirectories, AreTheUsualOneOtherwise) {
+    for (const char* const value : std::initializer_list<const char*>{nullptr, ""}) {
+        setOrUnset("XDG_CONFIG_DIRS", value);
+        EXPECT_EQ(configDirectories(), Paths{"/etc/xdg"});
+    }
+}
+
+TEST(PathList, EmptyAndRelativePathsArePassedOver) {
+    EXPECT_EQ(absolutePathsIn(":/one::two:./three:/four:"), (Paths{"/one", "/four"}));
+    EXPECT_EQ(absolutePathsIn(""), Paths{});
+    EXPECT_EQ(absolutePathsIn("."), Paths{});
 }
 
 } // namespace
