@@ -126,7 +126,8 @@ TEST_F(Awake, LeavesNothingHeldWhenItEnds) {
     EXPECT_EQ(saver.nextLine(), "asked quellbar Quellbar Keep Awake");
     EXPECT_EQ(saver.nextLine(), "granted 1");
     driver->process().end(SIGTERM);
-    EXPECT_EQ(saver.nextLine(), "let go 1");
+    const std::string line = saver.nextLine(); // the end may come before the grant has arrived
+    EXPECT_TRUE(line == "let go 1" || line == "left 1") << line;
 }
 
 TEST_F(Awake, LeavesNothingHeldWhenItIsKilled) {
@@ -240,7 +241,7 @@ TEST_F(Awake, NeedsNoBus) {
 class MateScreenSaver : public Awake {
   protected:
     // It gives the user ten seconds of notice, and then starts or does not.
-    static constexpr auto longEnough = 15s;
+    static constexpr auto longEnough = 20s;
 
     void SetUp() override {
         session.emplace(command({QUELLBAR_FAKE_SESSION}));

@@ -253,7 +253,8 @@ TEST_F(SeveralMonitors, LetACornerReachAlongTheEdgeBeyondItsOwn) {
 
 TEST_F(SeveralMonitors, AreAskedFromThePrimaryOneOn) {
     monitors.arrange({{"right", {.x = 640, .y = 0, .width = 640, .height = 800}}, leftHalf});
-    EXPECT_FALSE(firesAt({900, 799}));
+    EXPECT_FALSE(firesAt({645, 799})); // the bottom left of the first one
+    EXPECT_TRUE(firesAt({900, 799}));
     enable("bottomLeft");
     EXPECT_TRUE(firesAt({645, 799}));
     EXPECT_TRUE(firesAt({300, 799}));
