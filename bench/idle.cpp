@@ -119,7 +119,9 @@ class ThreeTools {
             missing_ += ", without `" + program + "`, which is not installed";
             return;
         }
-        processes_.emplace_back(desktop.command(arguments));
+        desktop::Command command = desktop.command(arguments);
+        command.environment["SHELL"] = "/bin/sh"; // the hot-key daemon insists
+        processes_.emplace_back(command);
         contestant_.processes.push_back(processes_.back().pid());
     }
 
