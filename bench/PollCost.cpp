@@ -43,7 +43,7 @@ Counted read(const fs::path& file) {
         } else if (line.starts_with("totals: ")) {
             counted.instructions = std::stod(line.substr(line.find(' ')));
         }
-        isPointerQuery = line == "cfn=xcb_query_pointer";
+        isPointerQuery = line == "cfn=xcb_query_pointer_reply";
     }
     return counted;
 }
