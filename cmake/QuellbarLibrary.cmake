@@ -15,11 +15,15 @@ function(quellbar_headers target scope folder)
   target_sources(${target} ${scope} FILE_SET HEADERS BASE_DIRS ${view} FILES ${files})
 endfunction()
 
-# quellbar_library(<folder> SOURCES ... HEADERS ... [USES <target>...] [PRIVATELY <target>...])
-#   The library quellbar_<folder>, with slashes as underscores. USES are needed by its headers too.
+# quellbar_library(<folder> [NAME <name>] SOURCES ... HEADERS ... [USES <target>...] [PRIVATELY <target>...])
+#   The library quellbar_<name>, named after its folder (with slashes as underscores) unless the
+#   folder holds more than one. USES are needed by its headers too.
 function(quellbar_library folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;HEADERS;USES;PRIVATELY")
-  string(REPLACE "/" "_" name quellbar_${folder})
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAME" "SOURCES;HEADERS;USES;PRIVATELY")
+  if(NOT arg_NAME)
+    string(REPLACE "/" "_" arg_NAME ${folder})
+  endif()
+  set(name quellbar_${arg_NAME})
   add_library(${name} STATIC ${arg_SOURCES})
   quellbar_headers(${name} PUBLIC ${folder} ${arg_HEADERS})
   target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE ${arg_PRIVATELY} quellbar_warnings)

@@ -46,6 +46,10 @@ class Application {
     /// Answers whether the desktop accepted the policy.
     bool setActivationPolicy(ActivationPolicy policy);
 
+    /// Brings the program in front of whatever other program is active. A request: the desktop may
+    /// decline it.
+    void activateIgnoringOtherApps();
+
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 

@@ -14,4 +14,12 @@ std::int64_t truncated(double number) {
     return static_cast<std::int64_t>(number);
 }
 
+std::int64_t multiplied(std::int64_t a, std::int64_t b) {
+    std::int64_t product = 0;
+    if (__builtin_mul_overflow(a, b, &product)) {
+        platform::fatalError("the product does not fit into a 64-bit integer");
+    }
+    return product;
+}
+
 } // namespace checked

@@ -8,4 +8,7 @@ namespace checked {
 /// The number without its fraction (toward zero). Fatal unless it is finite and fits.
 [[nodiscard]] std::int64_t truncated(double number);
 
+/// The product. Fatal unless it fits.
+[[nodiscard]] std::int64_t multiplied(std::int64_t a, std::int64_t b);
+
 } // namespace checked
