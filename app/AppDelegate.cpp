@@ -56,6 +56,7 @@ void renewLoginItem() {
 void AppDelegate::applicationDidFinishLaunching() {
     applyDockIcon(currentApplication());
     requestAccessibilityTrust();
+    statusItemController_ = StatusItemController::create();
     installShortcut();
     CornerHoverMonitor::shared().start();
     renewLoginItem();

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "menubar/StatusItemController.h"
 #include "platform/Application.h"
+
+#include <memory>
 
 /// Wires the program together when it has launched, and gives back what would outlive the process
 /// when it is about to end.
@@ -8,4 +11,7 @@ class AppDelegate final : public platform::ApplicationDelegate {
   public:
     void applicationDidFinishLaunching() override;
     void applicationWillTerminate() override;
+
+  private:
+    std::shared_ptr<StatusItemController> statusItemController_; // from launch on
 };
