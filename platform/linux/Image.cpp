@@ -1,0 +1,50 @@
+#include "platform/linux/ImagePeer.h"
+
+#include <QFile>
+#include <QImageReader>
+
+namespace platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+QImage read(const fs::path& file) {
+    return QImageReader(QFile::decodeName(file.c_str())).read();
+}
+
+fs::path detailedVariantOf(const fs::path& file) {
+    fs::path variant = file;
+    variant.replace_filename(file.stem().concat("@2x").concat(file.extension().native()));
+    return variant;
+}
+
+} // namespace
+
+Image::Image(std::unique_ptr<Peer> peer) : peer_(std::move(peer)) {}
+
+Image::~Image() = default;
+
+std::shared_ptr<Image> Image::withContentsOfFile(const fs::path& file) {
+    QImage picture = read(file);
+    if (picture.isNull()) {
+        return nullptr;
+    }
+    return std::make_shared<Image>(std::make_unique<Peer>(
+        Peer{.picture = std::move(picture), .detailed = read(detailedVariantOf(file))}));
+}
+
+bool Image::isTemplate() const {
+    return peer_->isTemplate;
+}
+
+void Image::setTemplate(bool isTemplate) {
+    peer_->isTemplate = isTemplate;
+}
+
+Size Image::size() const {
+    return {.width = static_cast<double>(peer_->picture.width()),
+            .height = static_cast<double>(peer_->picture.height())};
+}
+
+} // namespace platform
