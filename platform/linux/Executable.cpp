@@ -12,18 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The kernel marks the name of a file that has been replaced, as an upgrade does: the program will
-// be found under the name itself again.
-fs::path runningFile() {
-    constexpr std::string_view mark = " (deleted)";
-    std::error_code error;
-    std::string file = fs::read_symlink("/proc/self/exe", error).string();
-    if (file.ends_with(mark) && !fs::exists(file, error)) {
-        file.resize(file.size() - mark.size());
-    }
-    return file;
-}
-
 bool isWithin(const fs::path& folder, const fs::path& file) {
     return std::ranges::mismatch(folder, file).in1 == folder.end();
 }
@@ -40,8 +28,20 @@ fs::path withoutLinks(const fs::path& file) {
 
 } // namespace
 
+// The kernel marks the name of a file that has been replaced, as an upgrade does: the program will
+// be found under the name itself again.
+fs::path runningExecutable() {
+    constexpr std::string_view mark = " (deleted)";
+    std::error_code error;
+    std::string file = fs::read_symlink("/proc/self/exe", error).string();
+    if (file.ends_with(mark) && !fs::exists(file, error)) {
+        file.resize(file.size() - mark.size());
+    }
+    return file;
+}
+
 fs::path ownExecutable() {
-    const fs::path file = runningFile();
+    const fs::path file = runningExecutable();
     // Programs that are started from within an AppImage inherit the variables of it.
     const fs::path image = absolutePathIn("APPIMAGE");
     const fs::path mountPoint = absolutePathIn("APPDIR");

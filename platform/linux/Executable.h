@@ -5,6 +5,10 @@
 
 namespace platform::linux_host {
 
+/// The file that this process runs, without symbolic links. What comes with the program lies beside
+/// it. Empty when the system does not tell.
+[[nodiscard]] std::filesystem::path runningExecutable();
+
 /// The file that starts this program: its executable or, inside an AppImage, the image, since what
 /// it is mounted on goes away with it. Without symbolic links. Empty when the system does not tell.
 [[nodiscard]] std::filesystem::path ownExecutable();
