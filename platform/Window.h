@@ -28,6 +28,8 @@ class Window {
     bool makeFirstResponder(View& view);
 
     struct Peer;
+    /// For the windows that the host makes, such as a menu's.
+    explicit Window(std::unique_ptr<Peer> peer);
     ~Window();
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
