@@ -90,4 +90,8 @@ bool Application::setActivationPolicy(ActivationPolicy policy) {
     return [NSApp setActivationPolicy:macos::activationPolicyToNS(policy)] == YES;
 }
 
+void Application::activateIgnoringOtherApps() {
+    [NSApp activateIgnoringOtherApps:YES];
+}
+
 } // namespace platform

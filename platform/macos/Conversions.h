@@ -2,6 +2,7 @@
 
 #include "platform/Accessibility.h"
 #include "platform/ActivationPolicy.h"
+#include "platform/Event.h"
 #include "platform/Geometry.h"
 #include "platform/HotKeys.h"
 #include "platform/LoginItem.h"
@@ -13,8 +14,11 @@
 #import <Carbon/Carbon.h>
 #import <ServiceManagement/ServiceManagement.h>
 
-/// Every conversion between the seam's types and the system's, named after what it turns into what.
-/// Objects are lent to a conversion, and come from it in a holder.
+#include <filesystem>
+
+/// The conversions between the seam's types and the system's, named after what they turn into what.
+/// Objects are lent to a conversion, and come from it in a holder. What things look like is
+/// converted in AppearanceConversions.h.
 namespace platform::macos {
 
 /// The same object under its other type: strings, arrays, dictionaries, numbers and booleans of
@@ -28,6 +32,9 @@ template <typename To, typename From>
 /// something else, nearly everywhere a string is asked for.
 [[nodiscard]] Object<NSString*> stringToNSString(std::string_view text);
 [[nodiscard]] std::string nsStringToString(NSString* text);
+
+[[nodiscard]] Object<NSString*> pathToNSString(const std::filesystem::path& path);
+[[nodiscard]] std::filesystem::path nsStringToPath(NSString* path);
 
 [[nodiscard]] Object<NSData*> dataToNSData(const Data& data);
 [[nodiscard]] Data nsDataToData(NSData* data);
@@ -44,9 +51,17 @@ defaultsValuesToNSDictionary(const std::map<std::string, DefaultsValue, std::les
 [[nodiscard]] NSApplicationActivationPolicy activationPolicyToNS(ActivationPolicy policy);
 [[nodiscard]] ActivationPolicy nsToActivationPolicy(NSApplicationActivationPolicy policy);
 
-/// Both count in points from the bottom left of the primary screen.
+/// Both sides count in points, from the same origin.
 [[nodiscard]] Point nsPointToPoint(NSPoint point);
+[[nodiscard]] NSPoint pointToNSPoint(Point point);
+[[nodiscard]] Size nsSizeToSize(NSSize size);
+[[nodiscard]] NSSize sizeToNSSize(Size size);
 [[nodiscard]] Rect nsRectToRect(NSRect rect);
+[[nodiscard]] NSRect rectToNSRect(Rect rect);
+
+/// A mouse event, which has no key code: asking it for one raises an exception.
+[[nodiscard]] Event nsMouseEventToEvent(NSEvent* event);
+[[nodiscard]] Event nsKeyEventToEvent(NSEvent* event);
 
 [[nodiscard]] LoginItemStatus smToLoginItemStatus(SMAppServiceStatus status);
 /// Described as the system prints an error, with its domain and code.

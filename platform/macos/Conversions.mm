@@ -51,6 +51,14 @@ std::string nsStringToString(NSString* text) {
     return {bytes, [text lengthOfBytesUsingEncoding:NSUTF8StringEncoding]};
 }
 
+Object<NSString*> pathToNSString(const std::filesystem::path& path) {
+    return stringToNSString(path.native());
+}
+
+std::filesystem::path nsStringToPath(NSString* path) {
+    return nsStringToString(path);
+}
+
 Object<NSData*> dataToNSData(const Data& data) {
     return Object<NSData*>::share([NSData dataWithBytes:data.data() length:data.size()]);
 }
@@ -109,9 +117,41 @@ Point nsPointToPoint(NSPoint point) {
     return {point.x, point.y};
 }
 
-Rect nsRectToRect(NSRect rect) {
-    return {nsPointToPoint(rect.origin), {rect.size.width, rect.size.height}};
+NSPoint pointToNSPoint(Point point) {
+    return {point.x, point.y};
 }
+
+Size nsSizeToSize(NSSize size) {
+    return {size.width, size.height};
+}
+
+NSSize sizeToNSSize(Size size) {
+    return {size.width, size.height};
+}
+
+Rect nsRectToRect(NSRect rect) {
+    return {nsPointToPoint(rect.origin), nsSizeToSize(rect.size)};
+}
+
+NSRect rectToNSRect(Rect rect) {
+    return {pointToNSPoint(rect.origin), sizeToNSSize(rect.size)};
+}
+
+Event nsMouseEventToEvent(NSEvent* event) {
+    return {.locationInWindow = nsPointToPoint(event.locationInWindow),
+            .modifierFlags = static_cast<std::uint32_t>(event.modifierFlags)};
+}
+
+Event nsKeyEventToEvent(NSEvent* event) {
+    Event converted = nsMouseEventToEvent(event);
+    converted.keyCode = event.keyCode;
+    return converted;
+}
+
+static_assert(modifierFlagShift == NSEventModifierFlagShift);
+static_assert(modifierFlagControl == NSEventModifierFlagControl);
+static_assert(modifierFlagOption == NSEventModifierFlagOption);
+static_assert(modifierFlagCommand == NSEventModifierFlagCommand);
 
 LoginItemStatus smToLoginItemStatus(SMAppServiceStatus status) {
     return static_cast<LoginItemStatus>(status);

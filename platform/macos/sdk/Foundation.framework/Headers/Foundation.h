@@ -64,6 +64,7 @@ extern "C" void NSLog(NSString* format, ...) __attribute__((format(__NSString__,
 @end
 
 @interface NSArray : NSObject <NSFastEnumeration>
++ (instancetype)arrayWithObjects:(const id[])objects count:(NSUInteger)count;
 @end
 
 @interface NSMutableArray : NSArray
@@ -110,9 +111,24 @@ extern const NSRunLoopMode NSRunLoopCommonModes;
 - (void)addTimer:(NSTimer*)timer forMode:(NSRunLoopMode)mode;
 @end
 
+@interface NSURL : NSObject
++ (NSURL*)fileURLWithPath:(NSString*)path;
+@property (readonly) NSString* path;
+@end
+
+@interface NSAttributedString : NSObject
+- (instancetype)initWithString:(NSString*)string attributes:(NSDictionary*)attributes;
+@end
+
 @interface NSBundle : NSObject
 @property (class, readonly) NSBundle* mainBundle;
+- (instancetype)initWithPath:(NSString*)path;
 @property (readonly) NSString* bundleIdentifier;
+@property (readonly) NSString* bundlePath;
+- (NSURL*)URLForResource:(NSString*)name withExtension:(NSString*)extension;
+- (NSURL*)URLForResource:(NSString*)name
+           withExtension:(NSString*)extension
+            subdirectory:(NSString*)subdirectory;
 @end
 
 @interface NSUserDefaults : NSObject
