@@ -3,6 +3,7 @@
 import os
 import pathlib
 import plistlib
+import re
 import sys
 import unittest
 
@@ -14,6 +15,7 @@ LIBRARIES = {
     f"{FRAMEWORKS}/ApplicationServices.framework/Versions/A/ApplicationServices",
     f"{FRAMEWORKS}/Carbon.framework/Versions/A/Carbon",
     f"{FRAMEWORKS}/CoreFoundation.framework/Versions/A/CoreFoundation",
+    f"{FRAMEWORKS}/CoreGraphics.framework/Versions/A/CoreGraphics",
     f"{FRAMEWORKS}/Foundation.framework/Versions/C/Foundation",
     f"{FRAMEWORKS}/IOKit.framework/Versions/A/IOKit",
     f"{FRAMEWORKS}/ServiceManagement.framework/Versions/A/ServiceManagement",
@@ -23,6 +25,20 @@ LIBRARIES = {
 if sys.platform == "darwin":
     # Apple's compiler links the system's C++ library; elsewhere it is part of the program.
     LIBRARIES.add("/usr/lib/libc++.1.dylib")
+
+# What the user sees is made of these: the status item and its menu, the windows and what they hold.
+SEEN_CLASSES = {
+    "NSStatusBar",
+    "NSMenu",
+    "NSMenuItem",
+    "NSWindow",
+    "NSView",
+    "NSTextField",
+    "NSButton",
+    "NSStepper",
+    "NSImageView",
+    "NSImage",
+}
 
 MACOS = 1
 OLDEST_SYSTEM = "13.0"
@@ -59,6 +75,17 @@ class Bundle(unittest.TestCase):
             for symbol, library in imports.items():
                 with self.subTest(program.architecture, symbol=symbol):
                     self.assertIn(library, LIBRARIES)
+
+    def testWhatTheUserSeesIsMadeOfAppKitsOwnClasses(self):
+        wanted = {f"_OBJC_CLASS_$_{name}" for name in SEEN_CLASSES}
+        for program in self.programs:
+            classes = {
+                symbol
+                for symbol, library in program.imports()
+                if library is not None and library.endswith("/AppKit")
+            }
+            with self.subTest(program.architecture):
+                self.assertLessEqual(wanted, classes)
 
     def testTheFormatsOfLogMessagesAreWhereTheLogLooksForThem(self):
         for program in self.programs:
@@ -100,11 +127,15 @@ class Bundle(unittest.TestCase):
         self.assertEqual(list(self.executables.iterdir()), [named])
         self.assertTrue(os.access(named, os.X_OK))
 
-    def testNoPathOfTheBuildingMachineIsInTheProgram(self):
+    def testTheOnlyPathOfTheBuildingMachineIsWhereItsImagesWereBuilt(self):
+        build = pathlib.Path(os.environ["QUELLBAR_BUNDLE"]).parent
         sources = pathlib.Path(__file__).resolve().parents[2]
-        for folder in (sources, pathlib.Path(os.environ["QUELLBAR_BUNDLE"]), pathlib.Path.home()):
-            with self.subTest(folder=folder):
-                self.assertNotIn(os.fsencode(folder) + b"/", self.file)
+        for folder in (sources, build, pathlib.Path.home()):
+            for found in re.findall(re.escape(os.fsencode(folder)) + rb"/[^\0]*", self.file):
+                path = pathlib.Path(os.fsdecode(found))
+                with self.subTest(path=path):
+                    self.assertEqual(path.name, "Quellbar_Quellbar.bundle")
+                    self.assertTrue(path.is_relative_to(build))
 
 
 if __name__ == "__main__":
