@@ -12,11 +12,15 @@ constexpr auto atomCount = static_cast<std::size_t>(Atom::count);
 
 // In the order of the enumeration.
 constexpr std::array<std::string_view, atomCount> names{
+    "MANAGER",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
     "_NET_SUPPORTED",
     "_NET_SUPPORTING_WM_CHECK",
+    "_NET_SYSTEM_TRAY_COLORS",
+    "_NET_SYSTEM_TRAY_OPCODE",
+    "_NET_SYSTEM_TRAY_VISUAL",
     "_NET_WM_ACTION_MINIMIZE",
     "_NET_WM_ALLOWED_ACTIONS",
     "_NET_WM_PID",

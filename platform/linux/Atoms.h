@@ -8,11 +8,15 @@ namespace platform::linux_host {
 
 /// The names of the X protocol that this host uses beyond the predefined ones.
 enum class Atom : std::size_t {
+    manager,
     netActiveWindow,
     netClientList,
     netClientListStacking,
     netSupported,
     netSupportingWmCheck,
+    netSystemTrayColors,
+    netSystemTrayOpcode,
+    netSystemTrayVisual,
     netWmActionMinimize,
     netWmAllowedActions,
     netWmPid,

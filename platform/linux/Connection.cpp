@@ -1,5 +1,6 @@
 #include "platform/linux/Connection.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <xcb/randr.h>
@@ -56,6 +57,23 @@ void Connection::synchronize() {
         xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
 }
 
+void Connection::subscribe(EventHandler handler) {
+    lastingSubscriptions_.push_back(subscribeWhileKept(std::move(handler)));
+}
+
+// What has ended leaves its place to the next one, so that no place moves while events are told.
+Connection::Subscription Connection::subscribeWhileKept(EventHandler handler) {
+    auto subscription = std::make_shared<const EventHandler>(std::move(handler));
+    const auto free = std::find_if(handlers_.begin(), handlers_.end(),
+                                   [](const auto& each) { return each.expired(); });
+    if (free == handlers_.end()) {
+        handlers_.push_back(subscription);
+    } else {
+        *free = subscription;
+    }
+    return subscription;
+}
+
 void Connection::selectOnRoot(std::uint32_t eventMask) {
     rootEvents_ |= eventMask;
     xcb_change_window_attributes(connection_, root(), XCB_CW_EVENT_MASK, &rootEvents_);
@@ -83,8 +101,10 @@ void Connection::dispatch(Reply<xcb_generic_event_t> event) {
     if (!event || isError) {
         return;
     }
-    for (const EventHandler& handler : handlers_) {
-        handler(*event);
+    for (std::size_t i = 0; i < handlers_.size(); ++i) { // a handler may subscribe another one
+        if (const Subscription handler = handlers_[i].lock()) {
+            (*handler)(*event);
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
 #include <xcb/xcb.h>
 
@@ -40,7 +41,11 @@ class Connection {
 
     using EventHandler = std::function<void(const xcb_generic_event_t&)>;
     /// Has every event from now on told to `handler`, which stays until the process ends.
-    void subscribe(EventHandler handler) { handlers_.push_back(std::move(handler)); }
+    void subscribe(EventHandler handler);
+
+    using Subscription = std::shared_ptr<const EventHandler>;
+    /// As `subscribe`, but only for as long as the result is kept.
+    [[nodiscard]] Subscription subscribeWhileKept(EventHandler handler);
 
     /// Has these events of the root window sent, beside those that were selected before.
     void selectOnRoot(std::uint32_t eventMask);
@@ -77,7 +82,8 @@ class Connection {
     const xcb_setup_t* setup_;
     const xcb_screen_t* screen_;
     Atoms atoms_;
-    std::vector<EventHandler> handlers_;
+    std::vector<std::weak_ptr<const EventHandler>> handlers_;
+    std::vector<Subscription> lastingSubscriptions_;
     std::uint32_t rootEvents_ = XCB_EVENT_MASK_NO_EVENT;
     std::uint64_t turn_ = 0;
 };
