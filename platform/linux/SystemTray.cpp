@@ -79,8 +79,8 @@ TrayStyle SystemTray::style() const {
     PropertyRequest colors(connection_, window_, connection_.atom(Atom::netSystemTrayColors),
                            XCB_ATOM_CARDINAL);
     const PropertyItems visuals = visual.readItems();
-    return {.blends = !visuals.items().empty() &&
-                      hasAlpha(connection_.screen(), visuals.items().front()),
+    return {.blends =
+                !visuals.items().empty() && hasAlpha(connection_.screen(), visuals.items().front()),
             .foreground = foregroundIn(colors.readItems().items())};
 }
 

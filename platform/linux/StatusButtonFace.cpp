@@ -1,0 +1,210 @@
+#include "platform/linux/StatusButtonFace.h"
+
+#include "platform/linux/Appearance.h"
+#include "platform/linux/ImagePeer.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace platform::linux_host {
+
+namespace {
+
+constexpr double imagePoints = 18;
+constexpr double marginPoints = 2;
+constexpr double mostOfHeight = 0.75;     // a line of text in a low panel
+constexpr double compactHeight = 0.55;    // the short title in its square, at most ...
+constexpr int leastCompactPixels = 7;     // ... and at least
+constexpr double narrowestLetters = 0.75; // how far they may be pressed together
+constexpr double imageBehindTitle = 0.35; // opacity
+
+bool isDigit(QChar character) {
+    return character >= u'0' && character <= u'9';
+}
+
+QChar widestDigit(const QFontMetricsF& metrics) {
+    QChar widest = u'0';
+    for (char16_t digit = u'1'; digit <= u'9'; ++digit) {
+        if (metrics.horizontalAdvance(digit) > metrics.horizontalAdvance(widest)) {
+            widest = digit;
+        }
+    }
+    return widest;
+}
+
+// The baseline that centres digits and capitals, which is what there is to read here.
+double baselineFor(const QFontMetricsF& metrics, int height) {
+    return std::round((height + metrics.capHeight()) / 2);
+}
+
+// Of the two pictures, the one that keeps the most of it.
+const QImage& pictureFor(const Image& image, int side) {
+    const Image::Peer& peer = image.peer();
+    const int plain = std::max(peer.picture.width(), peer.picture.height());
+    return side == plain || peer.detailed.isNull() ? peer.picture : peer.detailed;
+}
+
+QImage tinted(const QImage& mask, const QColor& color) {
+    QImage result = mask.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    result.setDevicePixelRatio(1);
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(result.rect(), color);
+    return result;
+}
+
+QRect centred(QSize size, QRect room) {
+    return {room.x() + (room.width() - size.width()) / 2,
+            room.y() + (room.height() - size.height()) / 2, size.width(), size.height()};
+}
+
+} // namespace
+
+StatusButtonFace::StatusButtonFace(StatusButtonContent content, double scale)
+    : content_(std::move(content)), scale_(scale) {}
+
+const Image* StatusButtonFace::image() const {
+    return content_.imagePosition == ImagePosition::noImage ? nullptr : content_.image.get();
+}
+
+// A button with nothing to show, because its image is missing, would be a hole in the panel.
+QString StatusButtonFace::title() const {
+    const QString title = content_.imagePosition == ImagePosition::imageOnly
+                              ? QString()
+                              : QString::fromStdString(content_.title.string);
+    return title.isEmpty() && image() == nullptr ? QGuiApplication::applicationDisplayName()
+                                                 : title;
+}
+
+QString StatusButtonFace::shortTitle() const {
+    if (content_.title.string.empty()) {
+        return title().left(1);
+    }
+    const QString time = title().trimmed();
+    return time.count(u':') > 1 ? time.left(time.lastIndexOf(u':')) : time;
+}
+
+QString StatusButtonFace::spokenText() const {
+    const QString name = QGuiApplication::applicationDisplayName();
+    const QString time = QString::fromStdString(content_.title.string).trimmed();
+    return time.isEmpty() ? name : QStringLiteral("%1, Keep Awake %2 remaining").arg(name, time);
+}
+
+QFont StatusButtonFace::titleFont(int height) const {
+    QFont font = qFont(content_.title.font.value_or(Font::menuBar(0)));
+    const double pixels = QFontInfo(font).pixelSize() * scale_;
+    font.setPixelSize(std::max(1, static_cast<int>(std::min(pixels, height * mostOfHeight))));
+    return font;
+}
+
+double StatusButtonFace::titleWidth(int height) const {
+    const QFontMetricsF metrics(titleFont(height));
+    QString widest = title();
+    std::replace_if(widest.begin(), widest.end(), isDigit, widestDigit(metrics));
+    return metrics.horizontalAdvance(widest);
+}
+
+int StatusButtonFace::margin() const {
+    return qRound(marginPoints * scale_);
+}
+
+// An image at its own size is sharp; it is scaled only where it would be cut off or look lost.
+int StatusButtonFace::imageSide(int height) const {
+    const int natural = qRound(imagePoints * scale_);
+    const int room = std::max(1, height - 2 * margin());
+    const bool looksLost = 2 * room >= 3 * natural;
+    return room < natural || looksLost ? room : natural;
+}
+
+int StatusButtonFace::fullWidth(int height) const {
+    const int imageWidth = image() != nullptr ? imageSide(height) : 0;
+    const int width = imageWidth + static_cast<int>(std::ceil(titleWidth(height))) + 2 * margin();
+    return std::max(width, height);
+}
+
+QColor StatusButtonFace::titleColor(const QPalette& surroundings) const {
+    return qColor(content_.title.foregroundColor.value_or(Color::label), surroundings);
+}
+
+void StatusButtonFace::paint(QPainter& painter, QSize size, Form form,
+                             const QPalette& surroundings) const {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (form == Form::full) {
+        paintFull(painter, size, surroundings);
+    } else {
+        paintCompact(painter, size, surroundings);
+    }
+}
+
+void StatusButtonFace::paintFull(QPainter& painter, QSize size,
+                                 const QPalette& surroundings) const {
+    const int height = size.height();
+    const int side = image() != nullptr ? imageSide(height) : 0;
+    const int left = std::max(0, (size.width() - fullWidth(height)) / 2) + margin();
+    const bool isAlone = title().isEmpty();
+    paintImage(
+        painter,
+        centred({side, side}, isAlone ? QRect(QPoint(), size) : QRect(left, 0, side, height)),
+        surroundings);
+    const QFont font = titleFont(height);
+    const double baseline = baselineFor(QFontMetricsF(font), height) -
+                            content_.title.baselineOffset.value_or(0) * scale_;
+    painter.setFont(font);
+    painter.setPen(titleColor(surroundings));
+    painter.drawText(QPointF(left + side, baseline), title());
+}
+
+void StatusButtonFace::paintCompact(QPainter& painter, QSize size,
+                                    const QPalette& surroundings) const {
+    const QString text = shortTitle();
+    const int side = imageSide(std::min(size.width(), size.height()));
+    painter.setOpacity(text.isEmpty() ? 1 : imageBehindTitle);
+    paintImage(painter, centred({side, side}, QRect(QPoint(), size)), surroundings);
+    painter.setOpacity(1);
+    if (!text.isEmpty()) {
+        paintShortTitle(painter, size, surroundings);
+    }
+}
+
+void StatusButtonFace::paintImage(QPainter& painter, QRect square,
+                                  const QPalette& surroundings) const {
+    if (image() == nullptr) {
+        return;
+    }
+    const QImage& picture = pictureFor(*image(), square.width());
+    const QRect place = centred(picture.size().scaled(square.size(), Qt::KeepAspectRatio), square);
+    painter.drawImage(place, image()->isTemplate()
+                                 ? tinted(picture, surroundings.color(QPalette::WindowText))
+                                 : picture);
+}
+
+// As large as the square allows; letters that are pressed together a little are larger ones.
+void StatusButtonFace::paintShortTitle(QPainter& painter, QSize size,
+                                       const QPalette& surroundings) const {
+    const QString text = shortTitle();
+    QFont font = titleFont(size.height());
+    font.setBold(true);
+    double width = 0;
+    for (int pixels = static_cast<int>(size.height() * compactHeight);; --pixels) {
+        font.setPixelSize(std::max(pixels, leastCompactPixels));
+        width = QFontMetricsF(font).horizontalAdvance(text);
+        if (width * narrowestLetters <= size.width() || pixels <= leastCompactPixels) {
+            break;
+        }
+    }
+    const double squeeze = std::min(1.0, size.width() / width);
+    painter.save();
+    painter.translate((size.width() - width * squeeze) / 2,
+                      baselineFor(QFontMetricsF(font), size.height()));
+    painter.scale(squeeze, 1);
+    painter.setFont(font);
+    painter.setPen(titleColor(surroundings));
+    painter.drawText(QPointF(0, 0), text);
+    painter.restore();
+}
+
+} // namespace platform::linux_host

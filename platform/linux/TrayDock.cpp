@@ -1,0 +1,95 @@
+#include "platform/linux/TrayDock.h"
+
+#include "platform/linux/Reply.h"
+
+namespace platform::linux_host {
+
+namespace {
+
+constexpr std::uint32_t allPlanes = ~0U;
+
+using GeometryReply = Reply<xcb_get_geometry_reply_t>;
+
+// The pixels of an image of the server, if it has them as Qt does: four bytes each, which is so for
+// depths of 24 and 32.
+QImage imageFrom(const xcb_get_image_reply_t& reply, const GeometryReply& geometry) {
+    const int width = geometry->width;
+    const int height = geometry->height;
+    constexpr int bytesPerPixel = 4;
+    if (xcb_get_image_data_length(&reply) != width * height * bytesPerPixel) {
+        return {};
+    }
+    return QImage(xcb_get_image_data(&reply), width, height, QImage::Format_RGB32).copy();
+}
+
+} // namespace
+
+TrayDock::TrayDock(Connection& connection, xcb_window_t window, std::function<void()> onChange)
+    : connection_(connection), window_(window), onChange_(std::move(onChange)),
+      events_(connection.subscribeWhileKept(
+          [this](const xcb_generic_event_t& event) { handle(event); })) {
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection_.xcb(), window_, XCB_CW_EVENT_MASK, &events);
+}
+
+PixelRect TrayDock::frame() const {
+    xcb_connection_t* const xcb = connection_.xcb();
+    const auto geometryCookie = xcb_get_geometry(xcb, window_);
+    const auto placeCookie = xcb_translate_coordinates(xcb, window_, connection_.root(), 0, 0);
+    const GeometryReply geometry(xcb_get_geometry_reply(xcb, geometryCookie, nullptr));
+    const Reply<xcb_translate_coordinates_reply_t> place(
+        xcb_translate_coordinates_reply(xcb, placeCookie, nullptr));
+    if (!geometry || !place) {
+        return {};
+    }
+    return {place->dst_x, place->dst_y, geometry->width, geometry->height};
+}
+
+// The server paints the ground by itself: that of the window around it, continued.
+QImage TrayDock::readGround() const {
+    xcb_connection_t* const xcb = connection_.xcb();
+    const std::uint32_t continued = XCB_BACK_PIXMAP_PARENT_RELATIVE;
+    constexpr std::uint8_t withoutExposure = 0;
+    const GeometryReply geometry(
+        xcb_get_geometry_reply(xcb, xcb_get_geometry(xcb, window_), nullptr));
+    if (!geometry) {
+        return {};
+    }
+    xcb_change_window_attributes(xcb, window_, XCB_CW_BACK_PIXMAP, &continued);
+    xcb_clear_area(xcb, withoutExposure, window_, 0, 0, 0, 0);
+    const Reply<xcb_get_image_reply_t> image(
+        xcb_get_image_reply(xcb,
+                            xcb_get_image(xcb, XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0,
+                                          geometry->width, geometry->height, allPlanes),
+                            nullptr));
+    return image ? imageFrom(*image, geometry) : QImage();
+}
+
+void TrayDock::handle(const xcb_generic_event_t& event) {
+    constexpr int sentByClient = 0x80;
+    switch (event.response_type & ~sentByClient) {
+    case XCB_REPARENT_NOTIFY: {
+        const auto& notice = reinterpret_cast<const xcb_reparent_notify_event_t&>(event);
+        if (notice.window == window_) {
+            state_ = notice.parent == connection_.root() ? State::lost : State::docked;
+            onChange_();
+        }
+        return;
+    }
+    case XCB_DESTROY_NOTIFY:
+        if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_) {
+            state_ = State::lost;
+            onChange_();
+        }
+        return;
+    case XCB_CONFIGURE_NOTIFY:
+        if (reinterpret_cast<const xcb_configure_notify_event_t&>(event).window == window_) {
+            onChange_();
+        }
+        return;
+    default:
+        return;
+    }
+}
+
+} // namespace platform::linux_host

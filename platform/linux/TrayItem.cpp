@@ -1,0 +1,111 @@
+#include "platform/linux/TrayItem.h"
+
+#include "platform/linux/Surroundings.h"
+
+#include <QGuiApplication>
+#include <cmath>
+
+namespace platform::linux_host {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int wantedHeight = 22; // points
+constexpr auto timeToMakeRoom = 500ms;
+
+// Requests of two connections are served in no order, so Qt's are done before ours may follow.
+void finishRequestsOfQt() {
+    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 == nullptr) {
+        return;
+    }
+    const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
+        x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
+}
+
+} // namespace
+
+TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonContent content,
+                   std::function<void()> onPress, std::function<void()> onChange)
+    : connection_(connection), tray_(tray.window()), style_(tray.style()),
+      onChange_(std::move(onChange)), view_(std::move(onPress)),
+      dock_(connection, createWindow(), [this] { dockDidChange(); }) {
+    patience_.setSingleShot(true);
+    patience_.setInterval(timeToMakeRoom);
+    QObject::connect(&patience_, &QTimer::timeout, &view_, [this] {
+        isCramped_ = true;
+        useRoom();
+    });
+    setContent(content);
+    tray.requestDock(static_cast<xcb_window_t>(view_.winId()));
+}
+
+// No window manager touches it, whatever becomes of the tray: when one dies, the server hands the
+// window to the root and maps it there.
+xcb_window_t TrayItem::createWindow() {
+    view_.setWindowFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
+    view_.setAttribute(Qt::WA_TranslucentBackground, style_.blends);
+    view_.setFixedSize(wantedHeight, wantedHeight);
+    const auto window = static_cast<xcb_window_t>(view_.winId());
+    finishRequestsOfQt();
+    return window;
+}
+
+void TrayItem::setContent(const StatusButtonContent& content) {
+    view_.setContent(content);
+    askForRoom();
+    useRoom();
+}
+
+// Shown only now: Qt tells its size with showing, and the tray listens to that only once it has the
+// window.
+void TrayItem::dockDidChange() {
+    onChange_();
+    if (dock_.state() != TrayDock::State::docked) {
+        return;
+    }
+    const PixelRect frame = dock_.frame();
+    if (view_.isVisible() && QSize(frame.width, frame.height) == granted_) {
+        return;
+    }
+    granted_ = {frame.width, frame.height};
+    view_.show();
+    askForRoom();
+    useRoom();
+    updateSurroundings();
+}
+
+int TrayItem::wantedWidth() const {
+    const double scale = view_.devicePixelRatioF();
+    return view_.face().fullWidth(granted_.isEmpty() ? qRound(wantedHeight * scale)
+                                                     : granted_.height());
+}
+
+void TrayItem::askForRoom() {
+    const int points = static_cast<int>(std::ceil(wantedWidth() / view_.devicePixelRatioF()));
+    if (view_.minimumWidth() == points) {
+        return;
+    }
+    view_.setFixedSize(points, wantedHeight);
+    view_.resize(points, wantedHeight);
+    patience_.start();
+}
+
+// A tray that has once been seen to give no more room is not waited for again.
+void TrayItem::useRoom() {
+    const bool isEnough = granted_.width() >= wantedWidth();
+    if (isEnough) {
+        patience_.stop();
+        isCramped_ = false;
+    }
+    using Form = StatusButtonFace::Form;
+    view_.setRoom(granted_, isCramped_ ? Form::compact : Form::full);
+}
+
+void TrayItem::updateSurroundings() {
+    const QImage ground = style_.blends ? QImage() : dock_.readGround();
+    view_.setSurroundings(surroundingsIn(style_, ground, QGuiApplication::palette()), ground);
+}
+
+} // namespace platform::linux_host
