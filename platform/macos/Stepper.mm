@@ -20,7 +20,7 @@ std::shared_ptr<Stepper> Stepper::make(Rect frame, Action action) {
 Stepper::Stepper(std::unique_ptr<Peer> peer) : View(std::move(peer)) {}
 
 void Stepper::setRange(double minimum, double maximum) {
-    NSStepper* const stepper = macos::controlOf<NSStepper>(*this);
+    auto* const stepper = macos::controlOf<NSStepper>(*this);
     stepper.minValue = minimum;
     stepper.maxValue = maximum;
 }

@@ -26,7 +26,7 @@ static_assert(static_cast<NSUInteger>(AutoresizingMask::widthAndHeightSizable) =
 } // namespace
 
 void macos::setControlAction(View& control, std::function<void()> action) {
-    NSControl* const native = controlOf<NSControl>(control);
+    auto* const native = controlOf<NSControl>(control);
     ActionTarget target = makeActionTarget(std::move(action));
     native.target = target.get();
     native.action = @selector(performAction:);
