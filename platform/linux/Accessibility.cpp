@@ -1,6 +1,7 @@
 #include "platform/Accessibility.h"
 
 #include "platform/linux/Connection.h"
+#include "platform/linux/TitledWindow.h"
 #include "platform/linux/Trust.h"
 #include "platform/linux/WindowMessages.h"
 #include "platform/linux/WindowSnapshot.h"
@@ -10,6 +11,7 @@ namespace platform {
 using linux_host::ApplicationRecord;
 using linux_host::Connection;
 using linux_host::ManagedWindow;
+using linux_host::TitledWindow;
 using linux_host::WindowSnapshot;
 
 // An application by its identifier, looked up when it is asked something, or a window as it was.
@@ -43,6 +45,10 @@ AXError send(void (*request)(Connection&, xcb_window_t), xcb_window_t window) {
 }
 
 AXError minimize(const ManagedWindow& window) {
+    if (TitledWindow* const own = TitledWindow::find(window.id)) {
+        own->minimize();
+        return AXError::success;
+    }
     return mayBeMinimized(window) ? send(linux_host::askToMinimize, window.id) : AXError::failure;
 }
 

@@ -8,6 +8,7 @@
 #include "platform/linux/OwnProcess.h"
 #include "platform/linux/Signals.h"
 #include "platform/linux/SingleInstance.h"
+#include "platform/linux/TitledWindow.h"
 
 #include <QApplication>
 #include <QSocketNotifier>
@@ -18,6 +19,7 @@
 namespace platform {
 
 using linux_host::Connection;
+using linux_host::TitledWindow;
 
 namespace {
 
@@ -51,7 +53,6 @@ void createQtApplication() {
     static int argumentCount = 1;
     QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
     qtApplication = new QApplication(argumentCount, arguments.data());
-    QGuiApplication::setApplicationDisplayName("Quellbar");
     QGuiApplication::setDesktopFileName(QString::fromUtf8(linux_host::applicationId));
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
@@ -139,7 +140,12 @@ void Application::terminate() {
 
 bool Application::setActivationPolicy(ActivationPolicy policy) {
     linux_host::setOwnActivationPolicy(policy);
+    TitledWindow::applyActivationPolicy();
     return true;
+}
+
+void Application::activateIgnoringOtherApps() {
+    TitledWindow::activateFrontmost();
 }
 
 } // namespace platform

@@ -13,6 +13,7 @@ constexpr auto atomCount = static_cast<std::size_t>(Atom::count);
 // In the order of the enumeration.
 constexpr std::array<std::string_view, atomCount> names{
     "MANAGER",
+    "_MOTIF_WM_HINTS",
     "_NET_ACTIVE_WINDOW",
     "_NET_CLIENT_LIST",
     "_NET_CLIENT_LIST_STACKING",
@@ -25,6 +26,7 @@ constexpr std::array<std::string_view, atomCount> names{
     "_NET_WM_ALLOWED_ACTIONS",
     "_NET_WM_PID",
     "_NET_WM_STATE",
+    "_NET_WM_STATE_SKIP_PAGER",
     "_NET_WM_STATE_SKIP_TASKBAR",
     "_NET_WM_WINDOW_TYPE",
     "_NET_WM_WINDOW_TYPE_COMBO",

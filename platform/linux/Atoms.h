@@ -9,6 +9,7 @@ namespace platform::linux_host {
 /// The names of the X protocol that this host uses beyond the predefined ones.
 enum class Atom : std::size_t {
     manager,
+    motifWmHints,
     netActiveWindow,
     netClientList,
     netClientListStacking,
@@ -21,6 +22,7 @@ enum class Atom : std::size_t {
     netWmAllowedActions,
     netWmPid,
     netWmState,
+    netWmStateSkipPager,
     netWmStateSkipTaskbar,
     netWmWindowType,
     netWmWindowTypeCombo,

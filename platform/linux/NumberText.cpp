@@ -5,6 +5,7 @@
 #include <charconv>
 #include <clocale>
 #include <cstdlib>
+#include <limits>
 
 namespace platform::linux_host {
 namespace {
@@ -33,6 +34,15 @@ bool takeOneOf(std::string_view& text, std::string_view characters) {
     const bool isNext = !text.empty() && characters.find(text.front()) != std::string_view::npos;
     text.remove_prefix(isNext ? 1 : 0);
     return isNext;
+}
+
+// Without white space, and without a plus, which from_chars would not take.
+std::string_view fromSignOn(std::string_view text) {
+    text = withoutLeading(text, " \t\r\n");
+    if (text.starts_with('+') && !text.starts_with("+-")) {
+        text.remove_prefix(1);
+    }
+    return text;
 }
 
 // Words such as "inf" and "nan", which from_chars would take, are no decimal numbers.
@@ -74,16 +84,24 @@ std::optional<std::int64_t> integerFrom(std::string_view text) {
 }
 
 double decimalFrom(std::string_view text) {
-    text = withoutLeading(text, " \t\r\n");
-    if (text.starts_with('+') && !text.starts_with("+-")) {
-        text.remove_prefix(1);
-    }
+    text = fromSignOn(text);
     if (!beginsWithDecimal(text)) {
         return 0;
     }
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc::result_out_of_range ? limitOf(text) : number;
+}
+
+std::int64_t leadingIntegerFrom(std::string_view text) {
+    using Limits = std::numeric_limits<std::int64_t>;
+    text = fromSignOn(text);
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc::result_out_of_range) {
+        return text.starts_with('-') ? Limits::min() : Limits::max();
+    }
+    return number;
 }
 
 std::string textFrom(double number) {

@@ -18,6 +18,10 @@ namespace platform::linux_host {
 /// that is too large is infinite, one that is too small is 0.
 [[nodiscard]] double decimalFrom(std::string_view text);
 
+/// The decimal integer at the beginning of the text, after white space; 0 when there is none. The
+/// nearest that there is when it does not fit.
+[[nodiscard]] std::int64_t leadingIntegerFrom(std::string_view text);
+
 /// The shortest text that reads back as the same finite number, and that no integer has.
 [[nodiscard]] std::string textFrom(double number);
 

@@ -1,10 +1,10 @@
 #include "platform/linux/OwnProcess.h"
 
-#include <QGuiApplication>
+#include "platform/linux/QtConnection.h"
+
 #include <array>
 #include <climits>
 #include <unistd.h>
-#include <xcb/xcb.h>
 
 namespace platform::linux_host {
 
@@ -14,14 +14,9 @@ ActivationPolicy appliedPolicy = ActivationPolicy::regular;
 
 // The windows of this program are Qt's, so they are those of Qt's connection.
 std::optional<std::uint32_t> clientOfQt() {
-    if (qGuiApp == nullptr) {
-        return std::nullopt;
-    }
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr || x11->connection() == nullptr) {
-        return std::nullopt;
-    }
-    return xcb_get_setup(x11->connection())->resource_id_base;
+    xcb_connection_t* const connection = qtConnection();
+    return connection != nullptr ? std::optional(xcb_get_setup(connection)->resource_id_base)
+                                 : std::nullopt;
 }
 
 std::string hostName() {
@@ -43,6 +38,10 @@ OwnProcess ownProcess(bool sharesProcessNumbers) {
 
 void setOwnActivationPolicy(ActivationPolicy policy) {
     appliedPolicy = policy;
+}
+
+ActivationPolicy ownActivationPolicy() {
+    return appliedPolicy;
 }
 
 } // namespace platform::linux_host

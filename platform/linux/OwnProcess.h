@@ -10,5 +10,6 @@ namespace platform::linux_host {
 
 /// Remembers how this process wants to be shown.
 void setOwnActivationPolicy(ActivationPolicy policy);
+[[nodiscard]] ActivationPolicy ownActivationPolicy();
 
 } // namespace platform::linux_host

@@ -1,0 +1,30 @@
+#include "platform/linux/MenuPopup.h"
+
+#include "platform/linux/MenuPeer.h"
+
+#include <QKeyEvent>
+
+namespace platform::linux_host {
+
+MenuPopup::MenuPopup(Menu::Peer& peer, const QString& title) : QMenu(title), peer_(peer) {
+    connect(this, &QMenu::aboutToShow, this, [this] { peer_.willOpen(); });
+    connect(this, &QMenu::aboutToHide, this, [this] { peer_.didClose(); });
+    connect(this, &QMenu::hovered, this, [this] { peer_.highlightDidChange(); });
+}
+
+// Qt tells of an item that becomes the one to be chosen, and not when there is none any more.
+bool MenuPopup::event(QEvent* event) {
+    const bool isHandled = QMenu::event(event);
+    if (isVisible()) {
+        peer_.highlightDidChange();
+    }
+    return isHandled;
+}
+
+void MenuPopup::keyPressEvent(QKeyEvent* event) {
+    if (!peer_.chooseByKey(event->keyCombination())) {
+        QMenu::keyPressEvent(event);
+    }
+}
+
+} // namespace platform::linux_host

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QSpinBox>
+
+namespace platform::linux_host {
+
+/// A spin box without its field: nothing but the two arrows, in the desktop's style, and the keys
+/// that stand for them.
+class StepperArrows final : public QSpinBox {
+  public:
+    StepperArrows();
+
+    [[nodiscard]] QSize minimumSizeHint() const override { return {}; }
+};
+
+} // namespace platform::linux_host

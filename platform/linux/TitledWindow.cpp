@@ -1,0 +1,112 @@
+#include "platform/linux/TitledWindow.h"
+
+#include "platform/linux/Appearance.h"
+#include "platform/linux/Connection.h"
+#include "platform/linux/OwnProcess.h"
+#include "platform/linux/QtConnection.h"
+#include "platform/linux/WindowMessages.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <algorithm>
+#include <vector>
+
+namespace platform::linux_host {
+
+namespace {
+
+// Naming what there is leaves out the rest, which is minimizing and maximizing.
+constexpr Qt::WindowFlags titledAndClosable = Qt::Window | Qt::CustomizeWindowHint |
+                                              Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                              Qt::WindowCloseButtonHint;
+
+std::vector<TitledWindow*> allWindows;
+TitledWindow* frontmost = nullptr; // the one that was last ordered there
+
+xcb_window_t idOf(const QWidget& window) {
+    return static_cast<xcb_window_t>(window.internalWinId());
+}
+
+void tellActivationPolicy(const TitledWindow& window) {
+    askToSkipTaskbar(Connection::shared(), idOf(window),
+                     ownActivationPolicy() != ActivationPolicy::regular);
+}
+
+} // namespace
+
+TitledWindow::TitledWindow(QSize size, const QString& title) : QWidget(nullptr, titledAndClosable) {
+    setWindowTitle(title);
+    setFixedSize(size);
+    setFont(qFont(Font::system(0)));
+    allWindows.push_back(this);
+}
+
+TitledWindow::~TitledWindow() {
+    std::erase(allWindows, this);
+    if (frontmost == this) {
+        frontmost = nullptr;
+    }
+}
+
+TitledWindow* TitledWindow::find(xcb_window_t window) {
+    const auto found = std::ranges::find_if(allWindows, [window](const TitledWindow* candidate) {
+        return candidate->isVisible() && idOf(*candidate) == window;
+    });
+    return found != allWindows.end() ? *found : nullptr;
+}
+
+void TitledWindow::center() {
+    const QScreen* const underPointer = QGuiApplication::screenAt(QCursor::pos());
+    const QScreen* const screen =
+        underPointer != nullptr ? underPointer : QGuiApplication::primaryScreen();
+    if (screen != nullptr) {
+        QRect place = rect();
+        place.moveCenter(screen->availableGeometry().center());
+        move(place.topLeft());
+    }
+}
+
+// The window manager forgets what it was told about a window as soon as that is hidden. It has to
+// know of the window before it can be told again, so what Qt has asked for goes first.
+void TitledWindow::orderFront() {
+    frontmost = this;
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    synchronizeQt();
+    setMayBeMinimized(Connection::shared(), idOf(*this), false);
+    tellActivationPolicy(*this);
+    Connection::shared().flush();
+}
+
+// What the hints forbid to the user the window manager forbids to programs too, so they allow it
+// until the window is back.
+void TitledWindow::minimize() {
+    setMayBeMinimized(Connection::shared(), idOf(*this), true);
+    askToMinimize(Connection::shared(), idOf(*this));
+}
+
+void TitledWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isVisible() && !isMinimized()) {
+        setMayBeMinimized(Connection::shared(), idOf(*this), false);
+    }
+}
+
+void TitledWindow::applyActivationPolicy() {
+    for (const TitledWindow* const window : allWindows) {
+        if (window->isVisible()) {
+            tellActivationPolicy(*window);
+        }
+    }
+}
+
+void TitledWindow::activateFrontmost() {
+    if (frontmost != nullptr && frontmost->isVisible()) {
+        askToActivate(Connection::shared(), idOf(*frontmost));
+    }
+}
+
+} // namespace platform::linux_host
