@@ -139,4 +139,11 @@ bool Application::setActivationPolicy(ActivationPolicy policy) {
     return desktop().application.setActivationPolicy(policy);
 }
 
+void Application::activateIgnoringOtherApps() {
+    desktop().calls.record("activateIgnoringOtherApps");
+    if (!desktop().application.declinesActivation) {
+        desktop().application.setActive();
+    }
+}
+
 } // namespace platform

@@ -17,6 +17,8 @@ class Application {
     Start start = Start::succeeds;
     /// Whether the desktop turns down a change of the activation policy.
     bool refusesPolicy = false;
+    /// Whether the desktop declines to bring the program in front of the others.
+    bool declinesActivation = false;
 
     /// This program among the running applications: to open windows of its own, or to see its
     /// policy. Misuse before the program has made its application object.
@@ -29,6 +31,12 @@ class Application {
     /// The user quits the program.
     void quit();
 
+    /// Whether the keyboard belongs to this program. The user gives it to it by clicking on one of
+    /// its windows.
+    [[nodiscard]] bool isActive() const { return isActive_; }
+    /// The user turns to another program.
+    void deactivate() { isActive_ = false; }
+
     [[nodiscard]] bool hasLaunched() const { return hasLaunched_; }
     [[nodiscard]] bool hasTerminated() const { return hasTerminated_; }
 
@@ -39,10 +47,12 @@ class Application {
     void run();
     void terminate();
     bool setActivationPolicy(platform::ActivationPolicy policy);
+    void setActive() { isActive_ = true; }
 
   private:
     RunningApplication* self_ = nullptr;
     platform::ApplicationDelegate* delegate_ = nullptr;
+    bool isActive_ = false;
     bool hasLaunched_ = false;
     bool hasTerminated_ = false;
 };

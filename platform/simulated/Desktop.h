@@ -1,18 +1,29 @@
 #pragma once
 
 #include "platform/simulated/Accessibility.h"
+#include "platform/simulated/Appearance.h"
 #include "platform/simulated/Application.h"
 #include "platform/simulated/Bundle.h"
+#include "platform/simulated/Button.h"
 #include "platform/simulated/Calls.h"
 #include "platform/simulated/Clock.h"
+#include "platform/simulated/Files.h"
 #include "platform/simulated/HotKeys.h"
+#include "platform/simulated/Image.h"
+#include "platform/simulated/ImageView.h"
 #include "platform/simulated/Log.h"
 #include "platform/simulated/LoginItem.h"
 #include "platform/simulated/MainQueue.h"
+#include "platform/simulated/Menu.h"
 #include "platform/simulated/PowerAssertions.h"
 #include "platform/simulated/RunLoop.h"
 #include "platform/simulated/Screens.h"
+#include "platform/simulated/StatusItem.h"
+#include "platform/simulated/Stepper.h"
+#include "platform/simulated/TextField.h"
 #include "platform/simulated/UserDefaults.h"
+#include "platform/simulated/View.h"
+#include "platform/simulated/Window.h"
 #include "platform/simulated/Workspace.h"
 
 /// A desktop in memory. The program reaches it through the seam and cannot tell it from a real one;
@@ -35,7 +46,12 @@ struct Desktop {
     PowerAssertions powerAssertions;
     Screens screens;
     LoginItem loginItem;
+    Files files;
     Bundle bundle;
+    Appearance appearance;
+    StatusBar statusBar;
+    OpenMenus openMenus;
+    Windows windows;
     Log log;
 };
 

@@ -64,7 +64,7 @@ RunLoop::Scheduled* RunLoop::nextDueBy(Clock::Duration moment) {
 }
 
 bool RunLoop::mayFire(const Scheduled& scheduled) const {
-    return !isTracking_ || scheduled.mode == platform::RunLoopMode::commonModes;
+    return !isTracking_ || !timersKnowModes || scheduled.mode == platform::RunLoopMode::commonModes;
 }
 
 void RunLoop::beginTracking() {

@@ -24,6 +24,10 @@ class RunLoop {
     void beginTracking();
     void endTracking();
 
+    /// Whether timers know modes, as on a Mac. Where they do not, as on Linux, all of them go on
+    /// while a menu is open.
+    bool timersKnowModes = true;
+
     /// How many timers are scheduled, in any mode or in one.
     [[nodiscard]] std::size_t timerCount() const { return timers_.size(); }
     [[nodiscard]] std::size_t timerCount(platform::RunLoopMode mode) const;
