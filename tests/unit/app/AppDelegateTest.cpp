@@ -2,6 +2,7 @@
 
 #include "hotkey/HotKeyManager.h"
 #include "platform/simulated/Desktop.h"
+#include "unit/support/Installation.h"
 
 #include <gmock/gmock.h>
 
@@ -25,11 +26,21 @@ void store(const std::string& key, platform::DefaultsValue value) {
 class Launch : public testing::Test {
   protected:
     void SetUp() override {
+        installQuellbar();
         platform::Application::shared().setDelegate(&delegate_);
         desktop().calls.clear();
     }
 
     static void launch() { desktop().application.launch(); }
+
+    /// The calls that the steps consist of, without what makes up the menu.
+    static std::vector<std::string> stepsTaken() {
+        return desktop().calls.of({"setActivationPolicy", "isProcessTrustedWithOptions",
+                                   "inSystemStatusBar", "StatusItem::setMenu",
+                                   "installHotKeyPressedHandler", "registerEventHotKey",
+                                   "Timer::repeatingTimer", "addTimerToMainRunLoop", "Logger::log",
+                                   "loginItemStatus", "registerLoginItem"});
+    }
     static void press() {
         desktop().hotKeys.press(optionCommandM);
         desktop().mainQueue.turnUntilIdle();
@@ -40,15 +51,32 @@ class Launch : public testing::Test {
 
 TEST_F(Launch, TakesItsStepsInOrder) {
     launch();
-    EXPECT_THAT(desktop().calls.all(),
-                ElementsAre(StartsWith("registerDefaults("), "boolForKey(enableDockIcon)",
-                            "setActivationPolicy(accessory)", "isProcessTrustedWithOptions(prompt)",
-                            "installHotKeyPressedHandler()", "boolForKey(shortcutsEnabled)",
-                            "dataForKey(minimizeShortcut)",
+    EXPECT_THAT(stepsTaken(),
+                ElementsAre("setActivationPolicy(accessory)", "isProcessTrustedWithOptions(prompt)",
+                            "inSystemStatusBar(-1)", "StatusItem::setMenu()",
+                            "installHotKeyPressedHandler()",
                             "registerEventHotKey(46, 0x900, QLBR, 1)",
                             "Timer::repeatingTimer(80 ms)", "addTimerToMainRunLoop(commonModes)",
-                            "stringArrayForKey(hotCorners)", StartsWith("Logger::log("),
+                            StartsWith("Logger::log(")));
+}
+
+TEST_F(Launch, ReadsTheSettingsOfEachStepAndOfTheMenu) {
+    launch();
+    EXPECT_THAT(desktop().calls.of({"boolForKey", "dataForKey", "stringArrayForKey"}),
+                ElementsAre("boolForKey(enableDockIcon)", "dataForKey(minimizeShortcut)",
+                            "stringArrayForKey(hotCorners)", "stringArrayForKey(hotCorners)",
+                            "stringArrayForKey(hotCorners)", "stringArrayForKey(hotCorners)",
+                            "boolForKey(autoLaunchAtLogin)", "boolForKey(enableDockIcon)",
+                            "boolForKey(shortcutsEnabled)", "boolForKey(shortcutsEnabled)",
+                            "dataForKey(minimizeShortcut)", "stringArrayForKey(hotCorners)",
                             "boolForKey(autoLaunchAtLogin)"));
+}
+
+TEST_F(Launch, PutsOneStatusItemWithTheIconIntoTheStatusBar) {
+    launch();
+    const auto& image = desktop().statusBar.item().button().image;
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(simulated::stateOf(*image).file.filename(), "menubar_icon.png");
 }
 
 TEST_F(Launch, ShowsNoDockIconUnlessItIsEnabled) {
@@ -74,6 +102,7 @@ TEST_F(Launch, ShowsTheSystemsTrustPromptOnceAndGoesOn) {
     desktop().accessibility.isTrusted = false;
     launch();
     EXPECT_EQ(desktop().accessibility.promptsShown(), 1);
+    EXPECT_EQ(desktop().statusBar.items().size(), 1U);
     EXPECT_EQ(desktop().hotKeys.registrations().size(), 1U);
 }
 
@@ -106,10 +135,11 @@ TEST_F(Launch, RegistersTheStoredShortcut) {
                 ElementsAre("registerEventHotKey(12, 0x100, QLBR, 1)"));
 }
 
-TEST_F(Launch, WithShortcutsOffRegistersNothingAndDoesNotReadTheShortcut) {
+TEST_F(Launch, WithShortcutsOffRegistersNothingAndReadsTheShortcutForTheMenuAlone) {
     store("shortcutsEnabled", false);
     launch();
-    EXPECT_THAT(desktop().calls.of({"registerEventHotKey", "dataForKey"}), IsEmpty());
+    EXPECT_THAT(desktop().calls.of({"registerEventHotKey"}), IsEmpty());
+    EXPECT_THAT(desktop().calls.of({"dataForKey"}), ElementsAre("dataForKey(minimizeShortcut)"));
     EXPECT_THAT(desktop().hotKeys.registrations(), IsEmpty());
 }
 
@@ -147,9 +177,11 @@ TEST_F(Launch, ReadsEachSettingAtItsStep) {
 }
 
 TEST_F(Launch, ReadsTheShortcutAfterTheSwitch) {
-    desktop().calls.during("boolForKey(shortcutsEnabled)", [] {
-        const std::string_view json = R"({"keyCode":12,"modifiers":256})";
-        store("minimizeShortcut", platform::Data(json.begin(), json.end()));
+    desktop().calls.during("installHotKeyPressedHandler()", [] {
+        desktop().calls.during("boolForKey(shortcutsEnabled)", [] {
+            const std::string_view json = R"({"keyCode":12,"modifiers":256})";
+            store("minimizeShortcut", platform::Data(json.begin(), json.end()));
+        });
     });
     launch();
     EXPECT_THAT(desktop().calls.all(), Contains("registerEventHotKey(12, 0x100, QLBR, 1)"));

@@ -1,6 +1,7 @@
 #include "app/Entry.h"
 
 #include "platform/simulated/Desktop.h"
+#include "unit/support/Installation.h"
 
 #include <gmock/gmock.h>
 
@@ -10,6 +11,7 @@ using simulated::desktop;
 using testing::ElementsAre;
 
 TEST(Entry, MakesTheApplicationGivesItItsDelegateAndRunsIt) {
+    installQuellbar();
     desktop().mainQueue.post([] { desktop().application.quit(); });
     EXPECT_EQ(runQuellbar(), 0);
     EXPECT_THAT(desktop().calls.of({"Application::shared", "setDelegate", "run",
@@ -19,6 +21,7 @@ TEST(Entry, MakesTheApplicationGivesItItsDelegateAndRunsIt) {
 }
 
 TEST(Entry, AsksNothingOfTheDesktopBeforeTheProgramHasLaunched) {
+    installQuellbar();
     desktop().calls.during("run()", [] {
         EXPECT_THAT(desktop().calls.all(),
                     ElementsAre("Application::shared()", "setDelegate()", "run()"));
@@ -30,6 +33,7 @@ TEST(Entry, AsksNothingOfTheDesktopBeforeTheProgramHasLaunched) {
 }
 
 TEST(Entry, FromThePressOfTheShortcutToTheMinimizedWindow) {
+    installQuellbar();
     const auto& inbox = desktop().workspace.launch("Mail").openWindow("Inbox");
     desktop().mainQueue.post([] { desktop().hotKeys.press({46, 0x900}); });
     desktop().calls.during("setAttributeValue(Inbox, AXMinimized, true)",

@@ -25,7 +25,7 @@ void Model::spend(Time duration) {
 Model::Timer* Model::nextDueBy(Time moment) {
     std::vector<Timer*> due;
     for (Timer* const timer : {&poll_, &tick_}) {
-        const bool isHeldUp = timer == &tick_ && isMenuOpen;
+        const bool isHeldUp = timer == &tick_ && isMenuOpen_;
         if (timer->isOn && !isHeldUp && timer->due <= moment) {
             due.push_back(timer);
         }
@@ -147,6 +147,18 @@ Model::Time Model::remaining() const {
         return Time::zero();
     }
     return *end_ == forever ? forever : *end_ - wallTime_;
+}
+
+// The timer of the menu's row does not come to fire: it is one of the default mode, in which the
+// run loop is not before the menu has closed and taken the timer with it.
+void Model::openMenu() {
+    isMenuOpen_ = true;
+    expect("Timer::repeatingTimer(1000 ms)");
+}
+
+void Model::closeMenu() {
+    expect("Timer::invalidate()");
+    isMenuOpen_ = false;
 }
 
 void Model::wishForLoginItem(bool wish, bool isEnabled, const std::optional<std::string>& error) {

@@ -21,7 +21,6 @@ class Model {
     Time defaultDuration = std::chrono::hours(2);
     Time minimizingTakes{};
     bool isTrusted = true;
-    bool isMenuOpen = false;
     bool refusesAssertions = false;
     bool refusesReleases = false;
     bool hasDelegate = true;
@@ -35,11 +34,14 @@ class Model {
     void startKeepAwake(Time duration);
     void stopKeepAwake();
     void adjustKeepAwake(Time by);
+    void openMenu();
+    void closeMenu();
     void wishForLoginItem(bool wish, bool isEnabled, const std::optional<std::string>& error);
 
     // What must be so now.
     [[nodiscard]] Time uptime() const { return uptime_; }
     [[nodiscard]] Time wallTime() const { return wallTime_; }
+    [[nodiscard]] bool isMenuOpen() const { return isMenuOpen_; }
     [[nodiscard]] bool isPolling() const { return poll_.isOn; }
     [[nodiscard]] bool isAwake() const { return end_.has_value(); }
     [[nodiscard]] Time remaining() const;
@@ -81,6 +83,7 @@ class Model {
     Timer poll_{.interval = std::chrono::milliseconds(80)};
     Timer tick_{.interval = std::chrono::seconds(1)};
     int timersAdded_ = 0;
+    bool isMenuOpen_ = false;
     std::optional<Visit> visit_;
     std::optional<Time> end_; // on the wall clock; set while a run is active
     unsigned lastAssertion_ = 0;

@@ -4,6 +4,7 @@
 #include "platform/simulated/Desktop.h"
 #include "settings/LoginItemManager.h"
 #include "settings/Preferences.h"
+#include "unit/support/Installation.h"
 
 #include <gtest/gtest.h>
 
@@ -62,10 +63,11 @@ struct Year::Action {
 };
 
 Year::Year(std::uint64_t seed) : dice_(seed) {
+    installQuellbar();
     desktop().workspace.launch("Mail").openWindow("Inbox");
     platform::Application::shared().setDelegate(&delegate_);
-    keepAwake().delegate = observer_;
     desktop().application.launch();
+    keepAwake().delegate = observer_; // in place of the menu, which is told nothing this year
     desktop().calls.clear();
     model_.startCorners();
     model_.takeCalls();
@@ -139,7 +141,8 @@ void Year::check() {
     EXPECT_EQ(desktop().clock.uptime(), model_.uptime());
     EXPECT_EQ(desktop().powerAssertions.held().size(), model_.heldAssertions());
     EXPECT_EQ(keepAwake().isActive(), model_.isAwake());
-    EXPECT_EQ(loop.timerCount(platform::RunLoopMode::defaultMode), model_.isAwake() ? 1U : 0U);
+    EXPECT_EQ(loop.timerCount(platform::RunLoopMode::defaultMode),
+              (model_.isAwake() ? 1U : 0U) + (model_.isMenuOpen() ? 1U : 0U));
     EXPECT_EQ(loop.timerCount(platform::RunLoopMode::commonModes), model_.isPolling() ? 1U : 0U);
     const double remaining = keepAwake().remainingSeconds();
     if (std::isinf(remaining)) {
@@ -283,10 +286,16 @@ void Year::adjust() {
 }
 
 void Year::openOrCloseAMenu() {
-    bool& isOpen = model_.isMenuOpen;
-    isOpen = !isOpen;
-    tell(isOpen ? "a menu opens" : "the menu closes");
-    isOpen ? desktop().runLoop.beginTracking() : desktop().runLoop.endTracking();
+    const auto& item = desktop().statusBar.item();
+    if (model_.isMenuOpen()) {
+        tell("the menu closes");
+        item.menu().dismiss();
+        model_.closeMenu();
+    } else {
+        tell("the menu opens");
+        item.openMenu();
+        model_.openMenu();
+    }
 }
 
 void Year::stopOrStartTheCorners() {
