@@ -7,11 +7,11 @@
 @implementation QuellbarMenuDelegate
 
 - (void)menuWillOpen:(NSMenu*)menu {
-    if (self.menu == nullptr) {
+    if (self.seamMenu == nullptr) {
         return;
     }
-    if (const auto delegate = self.menu->peer().delegate.lock()) {
-        platform::macos::callOut([&] { delegate->menuWillOpen(*self.menu); });
+    if (const auto delegate = self.seamMenu->peer().delegate.lock()) {
+        platform::macos::callOut([&] { delegate->menuWillOpen(*self.seamMenu); });
     }
 }
 
@@ -22,7 +22,7 @@ namespace platform {
 using macos::Object;
 
 Menu* macos::menuOf(NSMenu* menu) {
-    return static_cast<QuellbarMenuDelegate*>(menu.delegate).menu;
+    return static_cast<QuellbarMenuDelegate*>(menu.delegate).seamMenu;
 }
 
 Menu::Menu(std::string_view title)
@@ -30,12 +30,12 @@ Menu::Menu(std::string_view title)
           .menu = Object<NSMenu*>::adopt(
               [[NSMenu alloc] initWithTitle:macos::stringToNSString(title).get()]),
           .adapter = Object<QuellbarMenuDelegate*>::adopt([[QuellbarMenuDelegate alloc] init])})) {
-    peer_->adapter.get().menu = this;
+    peer_->adapter.get().seamMenu = this;
     peer_->menu.get().delegate = peer_->adapter.get();
 }
 
 Menu::~Menu() {
-    peer_->adapter.get().menu = nullptr;
+    peer_->adapter.get().seamMenu = nullptr;
 }
 
 void Menu::setDelegate(std::weak_ptr<MenuDelegate> delegate) {

@@ -10,7 +10,7 @@
 
 - (void)choose:(id)sender {
     // Held: the action may take away the last owner of its own item.
-    const auto item = self.item != nullptr ? self.item->weak_from_this().lock() : nullptr;
+    const auto item = self.seamItem != nullptr ? self.seamItem->weak_from_this().lock() : nullptr;
     if (item) {
         platform::macos::callOut([&] { item->peer().action(*item); });
     }
@@ -35,7 +35,7 @@ Object<NSMenuItem*> makeItem(std::string_view title, SEL action, std::string_vie
 } // namespace
 
 MenuItem* macos::menuItemOf(NSMenuItem* item) {
-    return static_cast<QuellbarMenuItemTarget*>(item.target).item;
+    return static_cast<QuellbarMenuItemTarget*>(item.target).seamItem;
 }
 
 MenuItem::MenuItem(std::string_view title, Action action, std::string_view keyEquivalent)
@@ -44,7 +44,7 @@ MenuItem::MenuItem(std::string_view title, Action action, std::string_view keyEq
           .target = Object<QuellbarMenuItemTarget*>::adopt([[QuellbarMenuItemTarget alloc] init]),
           .action = std::move(action)
       })) {
-    peer_->target.get().item = this;
+    peer_->target.get().seamItem = this;
     peer_->item.get().target = peer_->target.get();
 }
 
@@ -56,7 +56,7 @@ std::shared_ptr<MenuItem> MenuItem::separatorItem() {
 MenuItem::MenuItem(std::unique_ptr<Peer> peer) : peer_(std::move(peer)) {}
 
 MenuItem::~MenuItem() {
-    peer_->target.get().item = nullptr;
+    peer_->target.get().seamItem = nullptr;
 }
 
 std::string MenuItem::title() const {

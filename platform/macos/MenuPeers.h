@@ -8,13 +8,13 @@
 /// The delegate of every menu: hands AppKit's call on, and tells which menu of the seam it is.
 @interface QuellbarMenuDelegate : NSObject <NSMenuDelegate>
 /// Null when it is gone.
-@property (nonatomic, assign) platform::Menu* menu;
+@property (nonatomic, assign) platform::Menu* seamMenu;
 @end
 
 /// The target of every item: runs the item's action, and tells which item of the seam it is.
 @interface QuellbarMenuItemTarget : NSObject
 /// Null when it is gone.
-@property (nonatomic, assign) platform::MenuItem* item;
+@property (nonatomic, assign) platform::MenuItem* seamItem;
 - (void)choose:(id)sender;
 @end
 

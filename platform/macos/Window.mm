@@ -31,12 +31,12 @@ Window* macos::ownWindowOf(NSWindow* window) {
     if (![window isKindOfClass:[QuellbarWindow class]]) {
         return nullptr;
     }
-    return static_cast<QuellbarWindow*>(window).window;
+    return static_cast<QuellbarWindow*>(window).seamWindow;
 }
 
 Window::Window(Size contentSize, std::string_view title)
     : Window(std::make_unique<Peer>(makeWindow({{}, contentSize}, title))) {
-    peer_->own.get().window = this;
+    peer_->own.get().seamWindow = this;
     peer_->contentView = std::make_shared<View>(Rect{{}, contentSize});
     peer_->window.contentView = peer_->contentView->peer().view.get();
 }
@@ -44,7 +44,7 @@ Window::Window(Size contentSize, std::string_view title)
 Window::Window(std::unique_ptr<Peer> peer) : peer_(std::move(peer)) {}
 
 Window::~Window() {
-    peer_->own.get().window = nullptr;
+    peer_->own.get().seamWindow = nullptr;
     [peer_->own.get() close];
 }
 

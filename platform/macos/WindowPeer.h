@@ -5,10 +5,10 @@
 
 #import <AppKit/AppKit.h>
 
-/// A window that the program made, and that can tell which one it is.
+/// A window that the program made, and that can tell which one of the seam's it is.
 @interface QuellbarWindow : NSWindow
-/// Null when it is gone.
-@property (nonatomic, assign) platform::Window* window;
+/// Null when it is gone. Not called `window`, which AppKit asks many of its objects for.
+@property (nonatomic, assign) platform::Window* seamWindow;
 @end
 
 struct platform::Window::Peer {
