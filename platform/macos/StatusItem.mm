@@ -22,6 +22,10 @@ struct StatusItem::Peer {
 
 namespace {
 
+CGFloat lengthToNS(double length) {
+    return length == StatusItem::variableLength ? NSVariableStatusItemLength : length;
+}
+
 std::unique_ptr<StatusBarButton> buttonOf(NSStatusItem* item) {
     NSStatusBarButton* const button = item.button;
     if (button == nil) {
@@ -59,7 +63,8 @@ void StatusBarButton::setTitle(std::string_view title) {
 }
 
 std::shared_ptr<StatusItem> StatusItem::inSystemStatusBar(double length) {
-    NSStatusItem* const item = [NSStatusBar.systemStatusBar statusItemWithLength:length];
+    NSStatusItem* const item =
+        [NSStatusBar.systemStatusBar statusItemWithLength:lengthToNS(length)];
     return std::make_shared<StatusItem>(std::make_unique<Peer>(
         Peer{.item = Object<NSStatusItem*>::share(item), .button = buttonOf(item)}));
 }

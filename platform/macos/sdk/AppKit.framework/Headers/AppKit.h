@@ -286,6 +286,8 @@ enum NSCellImagePosition : NSUInteger {
 @property (readonly) NSMenu* menu;
 @end
 
+static const CGFloat NSVariableStatusItemLength = -1;
+
 @interface NSStatusBarButton : NSButton
 @end
 
