@@ -1,9 +1,11 @@
 #include "platform/linux/FittedLabel.h"
 
 #include "platform/linux/Appearance.h"
+#include "platform/linux/TextBlock.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QPainter>
 
 namespace platform::linux_host {
 
@@ -34,7 +36,11 @@ void FittedLabel::setWantedFont(const QFont& font) {
 }
 
 QSize FittedLabel::sizeHint() const {
-    return textSizeIn(wantedFont_);
+    if (wordWrap()) {
+        return {width(), qCeil(TextBlock(text(), wantedFont_, size()).height())};
+    }
+    const QFontMetrics metrics(wantedFont_);
+    return {metrics.horizontalAdvance(text()), metrics.height()};
 }
 
 void FittedLabel::resizeEvent(QResizeEvent* event) {
@@ -42,19 +48,20 @@ void FittedLabel::resizeEvent(QResizeEvent* event) {
     fit();
 }
 
-QSize FittedLabel::textSizeIn(const QFont& font) const {
-    const QFontMetrics metrics(font);
+void FittedLabel::paintEvent(QPaintEvent* event) {
     if (!wordWrap()) {
-        return {metrics.horizontalAdvance(text()), metrics.height()};
+        QLabel::paintEvent(event);
+        return;
     }
-    const QRect room(0, 0, width(), QWIDGETSIZE_MAX);
-    return metrics.boundingRect(room, Qt::TextWordWrap, text()).size();
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    TextBlock(text(), font(), size()).draw(painter);
 }
 
 // Of one line only the width counts: what a font leaves free above and below may well be cut.
 bool FittedLabel::fits(const QFont& font) const {
-    const QSize size = textSizeIn(font);
-    return size.width() <= width() && (!wordWrap() || size.height() <= height());
+    return wordWrap() ? TextBlock(text(), font, size()).height() <= height()
+                      : QFontMetrics(font).horizontalAdvance(text()) <= width();
 }
 
 void FittedLabel::fit() {

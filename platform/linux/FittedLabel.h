@@ -16,14 +16,14 @@ class FittedLabel final : public QLabel {
     /// The font to use where there is room for it.
     void setWantedFont(const QFont& font);
 
-    /// The size of the text in the wanted font.
+    /// The size of the text in the wanted font; of one that wraps, at the present width.
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
-    [[nodiscard]] QSize textSizeIn(const QFont& font) const;
     [[nodiscard]] bool fits(const QFont& font) const;
     void fit();
 

@@ -13,4 +13,16 @@ StepperArrows::StepperArrows() {
     lineEdit()->hide();
 }
 
+// No style draws the arrows without the field that they belong to; what is left of that in so
+// narrow a widget is cut off.
+void StepperArrows::paintEvent(QPaintEvent*) {
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    QStylePainter painter(this);
+    const QRect up =
+        style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, this);
+    painter.setClipRect(rect().adjusted(up.left() - 1, 0, 0, 0));
+    painter.drawComplexControl(QStyle::CC_SpinBox, option);
+}
+
 } // namespace platform::linux_host

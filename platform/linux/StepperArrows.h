@@ -10,7 +10,8 @@ class StepperArrows final : public QSpinBox {
   public:
     StepperArrows();
 
-    [[nodiscard]] QSize minimumSizeHint() const override { return {}; }
+  protected:
+    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace platform::linux_host

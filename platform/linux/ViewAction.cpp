@@ -2,14 +2,31 @@
 
 #include "platform/linux/ViewPeer.h"
 
+#include <QStyleOptionMenuItem>
+
 namespace platform::linux_host {
 
+namespace {
+
+int heightOfTextItem(const QWidget& menu) {
+    QStyleOptionMenuItem option;
+    option.initFrom(&menu);
+    option.menuItemType = QStyleOptionMenuItem::Normal;
+    option.font = menu.font();
+    const QSize text(0, menu.fontMetrics().height());
+    return menu.style()->sizeFromContents(QStyle::CT_MenuItem, &option, text, &menu).height();
+}
+
+} // namespace
+
+// As high as the menu's other items at least, whatever its font.
 QWidget* ViewAction::createWidget(QWidget* parent) {
     if (!view_) {
         return nullptr;
     }
     QWidget* const widget = view_->peer().widget;
     widget->setParent(parent);
+    widget->setMinimumHeight(heightOfTextItem(*parent));
     return widget;
 }
 

@@ -1,0 +1,38 @@
+#include "platform/linux/TextBlock.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <algorithm>
+
+namespace platform::linux_host {
+
+namespace {
+
+constexpr double closestSpacing = 1.13; // of the font's size
+
+QString withLineSeparators(QString text) {
+    return text.replace(u'\n', QChar(QChar::LineSeparator));
+}
+
+double spacingFor(const QFont& font, double room) {
+    const double closest = closestSpacing * QFontInfo(font).pixelSize();
+    return std::clamp(room, closest, std::max(closest, QFontMetricsF(font).lineSpacing()));
+}
+
+} // namespace
+
+TextBlock::TextBlock(const QString& text, const QFont& font, QSizeF area)
+    : layout_(withLineSeparators(text), font) {
+    layout_.beginLayout();
+    for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+        line.setLineWidth(area.width());
+    }
+    layout_.endLayout();
+    spacing_ = spacingFor(font, area.height() / std::max(layout_.lineCount(), 1));
+    for (int i = 0; i < layout_.lineCount(); ++i) {
+        QTextLine line = layout_.lineAt(i);
+        line.setPosition({0, i * spacing_ + (spacing_ - line.height()) / 2});
+    }
+}
+
+} // namespace platform::linux_host
