@@ -1,6 +1,7 @@
 #include "platform/Application.h"
 
 #include "platform/MainQueue.h"
+#include "platform/linux/AccessibilityBridge.h"
 #include "platform/linux/ApplicationId.h"
 #include "platform/linux/Connection.h"
 #include "platform/linux/EventPump.h"
@@ -126,6 +127,7 @@ void Application::run() {
     }
     std::atexit(endWithServer);
     dispatchAsyncOnMainQueue(finishLaunching);
+    linux_host::keepBridgeFromSilentBus();
     loopIsRunning = true;
     QApplication::exec();
     loopIsRunning = false;

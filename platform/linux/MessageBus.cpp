@@ -83,6 +83,10 @@ bool MessageBus::isOpen() const {
     return sd_bus_is_open(bus_.get()) > 0;
 }
 
+bool MessageBus::isReady() const {
+    return sd_bus_is_ready(bus_.get()) > 0;
+}
+
 BusMessage MessageBus::createCall(const char* destination, const char* path, const char* interface,
                                   const char* member) const {
     sd_bus_message* call = nullptr;

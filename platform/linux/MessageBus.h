@@ -33,6 +33,9 @@ class MessageBus {
     /// Whether the bus is there, as far as is known.
     [[nodiscard]] bool isOpen() const;
 
+    /// Whether the bus has answered: before, calls wait here to be sent.
+    [[nodiscard]] bool isReady() const;
+
     /// A method call without arguments yet. It starts no service that does not run.
     [[nodiscard]] BusMessage createCall(const char* destination, const char* path,
                                         const char* interface, const char* member) const;
