@@ -16,6 +16,7 @@ namespace {
 
 constexpr double imagePoints = 18;
 constexpr double marginPoints = 2;
+constexpr double mostMargin = 1.0 / 11;   // of the height, in a low panel
 constexpr double mostOfHeight = 0.75;     // a line of text in a low panel
 constexpr double compactHeight = 0.55;    // the short title in its square, at most ...
 constexpr int leastCompactPixels = 7;     // ... and at least
@@ -108,21 +109,22 @@ double StatusButtonFace::titleWidth(int height) const {
     return metrics.horizontalAdvance(widest);
 }
 
-int StatusButtonFace::margin() const {
-    return qRound(marginPoints * scale_);
+int StatusButtonFace::margin(int height) const {
+    return qRound(std::min(marginPoints * scale_, height * mostMargin));
 }
 
 // An image at its own size is sharp; it is scaled only where it would be cut off or look lost.
 int StatusButtonFace::imageSide(int height) const {
     const int natural = qRound(imagePoints * scale_);
-    const int room = std::max(1, height - 2 * margin());
+    const int room = std::max(1, height - 2 * margin(height));
     const bool looksLost = 2 * room >= 3 * natural;
     return room < natural || looksLost ? room : natural;
 }
 
 int StatusButtonFace::fullWidth(int height) const {
     const int imageWidth = image() != nullptr ? imageSide(height) : 0;
-    const int width = imageWidth + static_cast<int>(std::ceil(titleWidth(height))) + 2 * margin();
+    const int width =
+        imageWidth + static_cast<int>(std::ceil(titleWidth(height))) + 2 * margin(height);
     return std::max(width, height);
 }
 
@@ -144,7 +146,7 @@ void StatusButtonFace::paintFull(QPainter& painter, QSize size,
                                  const QPalette& surroundings) const {
     const int height = size.height();
     const int side = image() != nullptr ? imageSide(height) : 0;
-    const int left = std::max(0, (size.width() - fullWidth(height)) / 2) + margin();
+    const int left = std::max(0, (size.width() - fullWidth(height)) / 2) + margin(height);
     const bool isAlone = title().isEmpty();
     paintImage(
         painter,

@@ -49,7 +49,7 @@ class StatusButtonFace {
     [[nodiscard]] QString title() const;
     [[nodiscard]] QFont titleFont(int height) const;
     [[nodiscard]] double titleWidth(int height) const;
-    [[nodiscard]] int margin() const;
+    [[nodiscard]] int margin(int height) const;
     [[nodiscard]] int imageSide(int height) const;
     void paintFull(QPainter& painter, QSize size, const QPalette& surroundings) const;
     void paintCompact(QPainter& painter, QSize size, const QPalette& surroundings) const;

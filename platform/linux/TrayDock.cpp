@@ -24,11 +24,12 @@ QImage imageFrom(const xcb_get_image_reply_t& reply, const GeometryReply& geomet
 
 } // namespace
 
-TrayDock::TrayDock(Connection& connection, xcb_window_t window, std::function<void()> onChange)
+TrayDock::TrayDock(Connection& connection, xcb_window_t window,
+                   std::function<void(Change)> onChange)
     : connection_(connection), window_(window), onChange_(std::move(onChange)),
       events_(connection.subscribeWhileKept(
           [this](const xcb_generic_event_t& event) { handle(event); })) {
-    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    const std::uint32_t events = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_VISIBILITY_CHANGE;
     xcb_change_window_attributes(connection_.xcb(), window_, XCB_CW_EVENT_MASK, &events);
 }
 
@@ -71,25 +72,33 @@ void TrayDock::handle(const xcb_generic_event_t& event) {
     case XCB_REPARENT_NOTIFY: {
         const auto& notice = reinterpret_cast<const xcb_reparent_notify_event_t&>(event);
         if (notice.window == window_) {
-            state_ = notice.parent == connection_.root() ? State::lost : State::docked;
-            onChange_();
+            setState(notice.parent == connection_.root() ? State::lost : State::docked);
         }
         return;
     }
     case XCB_DESTROY_NOTIFY:
         if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_) {
-            state_ = State::lost;
-            onChange_();
+            setState(State::lost);
         }
         return;
     case XCB_CONFIGURE_NOTIFY:
         if (reinterpret_cast<const xcb_configure_notify_event_t&>(event).window == window_) {
-            onChange_();
+            onChange_(Change::size);
+        }
+        return;
+    case XCB_VISIBILITY_NOTIFY:
+        if (reinterpret_cast<const xcb_visibility_notify_event_t&>(event).window == window_) {
+            onChange_(Change::ground);
         }
         return;
     default:
         return;
     }
+}
+
+void TrayDock::setState(State state) {
+    state_ = state;
+    onChange_(Change::state);
 }
 
 } // namespace platform::linux_host

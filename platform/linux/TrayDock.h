@@ -14,9 +14,12 @@ namespace platform::linux_host {
 /// All places and sizes are pixels of the X server.
 class TrayDock {
   public:
-    /// Watches `window`, which has to exist already. `onChange` is called from the event loop
-    /// whenever any of the answers below may have changed.
-    TrayDock(Connection& connection, xcb_window_t window, std::function<void()> onChange);
+    /// What may be another one than before: `state`, the size of `frame`, or what `readGround`
+    /// reads.
+    enum class Change { state, size, ground };
+
+    /// Watches `window`, which has to exist already. `onChange` is called from the event loop.
+    TrayDock(Connection& connection, xcb_window_t window, std::function<void(Change)> onChange);
 
     /// Asked for, taken by a tray, or put out of it again.
     enum class State { waiting, docked, lost };
@@ -27,15 +30,17 @@ class TrayDock {
     [[nodiscard]] PixelRect frame() const;
 
     /// What the tray shows where the window is, for windows that cannot be seen through. Null when
-    /// that cannot be read. Has whatever the window shows erased. One round trip.
+    /// that cannot be read, as long as the tray does not show the window yet. Has whatever the
+    /// window shows erased. Two round trips.
     [[nodiscard]] QImage readGround() const;
 
   private:
     void handle(const xcb_generic_event_t& event);
+    void setState(State state);
 
     Connection& connection_;
     xcb_window_t window_;
-    std::function<void()> onChange_;
+    std::function<void(Change)> onChange_;
     State state_ = State::waiting;
     Connection::Subscription events_;
 };

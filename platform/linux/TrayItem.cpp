@@ -12,6 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int wantedHeight = 22; // points
+constexpr int leastHeight = 8;   // a low tray would give more than it has, and cut the rest off
 constexpr auto timeToMakeRoom = 500ms;
 
 // Requests of two connections are served in no order, so Qt's are done before ours may follow.
@@ -30,7 +31,8 @@ TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonC
                    std::function<void()> onPress, std::function<void()> onChange)
     : connection_(connection), tray_(tray.window()), style_(tray.style()),
       onChange_(std::move(onChange)), view_(std::move(onPress)),
-      dock_(connection, createWindow(), [this] { dockDidChange(); }) {
+      dock_(connection, createWindow(),
+            [this](TrayDock::Change change) { dockDidChange(change); }) {
     patience_.setSingleShot(true);
     patience_.setInterval(timeToMakeRoom);
     QObject::connect(&patience_, &QTimer::timeout, &view_, [this] {
@@ -42,11 +44,12 @@ TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonC
 }
 
 // No window manager touches it, whatever becomes of the tray: when one dies, the server hands the
-// window to the root and maps it there.
+// window to the root and shows it there.
 xcb_window_t TrayItem::createWindow() {
     view_.setWindowFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     view_.setAttribute(Qt::WA_TranslucentBackground, style_.blends);
-    view_.setFixedSize(wantedHeight, wantedHeight);
+    view_.setMinimumSize(leastHeight, leastHeight);
+    view_.resize(wantedHeight, wantedHeight);
     const auto window = static_cast<xcb_window_t>(view_.winId());
     finishRequestsOfQt();
     return window;
@@ -58,22 +61,35 @@ void TrayItem::setContent(const StatusButtonContent& content) {
     useRoom();
 }
 
-// Shown only now: Qt tells its size with showing, and the tray listens to that only once it has the
-// window.
-void TrayItem::dockDidChange() {
-    onChange_();
-    if (dock_.state() != TrayDock::State::docked) {
+// Shown only once the tray has the window: Qt tells the window's size as it shows it, and the tray
+// listens to that only for windows that it has.
+void TrayItem::dockDidChange(TrayDock::Change change) {
+    switch (change) {
+    case TrayDock::Change::state:
+        if (state() == TrayDock::State::docked) {
+            view_.show();
+            readRoom();
+        }
+        onChange_();
+        return;
+    case TrayDock::Change::size:
+        readRoom();
+        updateSurroundings();
+        return;
+    case TrayDock::Change::ground:
+        updateSurroundings();
+        return;
+    }
+}
+
+void TrayItem::readRoom() {
+    if (state() != TrayDock::State::docked) {
         return;
     }
     const PixelRect frame = dock_.frame();
-    if (view_.isVisible() && QSize(frame.width, frame.height) == granted_) {
-        return;
-    }
     granted_ = {frame.width, frame.height};
-    view_.show();
     askForRoom();
     useRoom();
-    updateSurroundings();
 }
 
 int TrayItem::wantedWidth() const {
@@ -87,7 +103,7 @@ void TrayItem::askForRoom() {
     if (view_.minimumWidth() == points) {
         return;
     }
-    view_.setFixedSize(points, wantedHeight);
+    view_.setMinimumSize(points, leastHeight);
     view_.resize(points, wantedHeight);
     patience_.start();
 }
@@ -104,6 +120,9 @@ void TrayItem::useRoom() {
 }
 
 void TrayItem::updateSurroundings() {
+    if (state() != TrayDock::State::docked) {
+        return;
+    }
     const QImage ground = style_.blends ? QImage() : dock_.readGround();
     view_.setSurroundings(surroundingsIn(style_, ground, QGuiApplication::palette()), ground);
 }

@@ -30,7 +30,8 @@ class TrayItem {
 
   private:
     xcb_window_t createWindow();
-    void dockDidChange();
+    void dockDidChange(TrayDock::Change change);
+    void readRoom();
     void askForRoom();
     void useRoom();
     [[nodiscard]] int wantedWidth() const;
