@@ -12,6 +12,7 @@
 #include "platform/linux/TitledWindow.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QSocketNotifier>
 #include <array>
 #include <cstdio>
@@ -46,6 +47,12 @@ void preferX11() {
     }
 }
 
+// Trays take windows of this program and die with them, at any moment. What Qt has to say about
+// that on standard error is of no use to anyone.
+void silenceQtAboutX11() {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.xcb.warning=false"));
+}
+
 // The program reads no command line, and the session has no say in when it starts: that is the
 // login item's.
 void createQtApplication() {
@@ -53,6 +60,7 @@ void createQtApplication() {
     static std::array<char*, 2> arguments{name.data(), nullptr};
     static int argumentCount = 1;
     QCoreApplication::setAttribute(Qt::AA_DisableSessionManager);
+    silenceQtAboutX11();
     qtApplication = new QApplication(argumentCount, arguments.data());
     QGuiApplication::setDesktopFileName(QString::fromUtf8(linux_host::applicationId));
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -1,11 +1,11 @@
 #include "platform/linux/StatusButtonFace.h"
 
 #include "platform/linux/Appearance.h"
+#include "platform/linux/ApplicationId.h"
 #include "platform/linux/ImagePeer.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -22,6 +22,10 @@ constexpr double compactHeight = 0.55;    // the short title in its square, at m
 constexpr int leastCompactPixels = 7;     // ... and at least
 constexpr double narrowestLetters = 0.75; // how far they may be pressed together
 constexpr double imageBehindTitle = 0.35; // opacity
+
+QString programName() {
+    return QString::fromUtf8(applicationName);
+}
 
 bool isDigit(QChar character) {
     return character >= u'0' && character <= u'9';
@@ -77,8 +81,7 @@ QString StatusButtonFace::title() const {
     const QString title = content_.imagePosition == ImagePosition::imageOnly
                               ? QString()
                               : QString::fromStdString(content_.title.string);
-    return title.isEmpty() && image() == nullptr ? QGuiApplication::applicationDisplayName()
-                                                 : title;
+    return title.isEmpty() && image() == nullptr ? programName() : title;
 }
 
 QString StatusButtonFace::shortTitle() const {
@@ -90,9 +93,9 @@ QString StatusButtonFace::shortTitle() const {
 }
 
 QString StatusButtonFace::spokenText() const {
-    const QString name = QGuiApplication::applicationDisplayName();
     const QString time = QString::fromStdString(content_.title.string).trimmed();
-    return time.isEmpty() ? name : QStringLiteral("%1, Keep Awake %2 remaining").arg(name, time);
+    return time.isEmpty() ? programName()
+                          : QStringLiteral("%1, Keep Awake %2 remaining").arg(programName(), time);
 }
 
 QFont StatusButtonFace::titleFont(int height) const {
@@ -178,7 +181,8 @@ void StatusButtonFace::paintImage(QPainter& painter, QRect square,
         return;
     }
     const QImage& picture = pictureFor(*image(), square.width());
-    const QRect place = centred(picture.size().scaled(square.size(), Qt::KeepAspectRatio), square);
+    const QSize fitting = picture.size().scaled(square.size(), Qt::KeepAspectRatio);
+    const QRect place = centred(fitting.expandedTo({1, 1}), square);
     painter.drawImage(place, image()->isTemplate()
                                  ? tinted(picture, surroundings.color(QPalette::WindowText))
                                  : picture);

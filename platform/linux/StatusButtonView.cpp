@@ -1,7 +1,8 @@
 #include "platform/linux/StatusButtonView.h"
 
+#include "platform/linux/ApplicationId.h"
+
 #include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -26,7 +27,7 @@ bool opensMenus(int key) {
 } // namespace
 
 StatusButtonView::StatusButtonView(std::function<void()> onPress) : onPress_(std::move(onPress)) {
-    setWindowTitle(QGuiApplication::applicationDisplayName());
+    setWindowTitle(QString::fromUtf8(applicationName));
     connect(this, &QAbstractButton::clicked, this, [this] { onPress_(); });
 }
 

@@ -1,5 +1,6 @@
 #include "platform/linux/TrayItem.h"
 
+#include "platform/linux/QtConnection.h"
 #include "platform/linux/Surroundings.h"
 
 #include <QGuiApplication>
@@ -14,16 +15,6 @@ using namespace std::chrono_literals;
 constexpr int wantedHeight = 22; // points
 constexpr int leastHeight = 8;   // a low tray would give more than it has, and cut the rest off
 constexpr auto timeToMakeRoom = 500ms;
-
-// Requests of two connections are served in no order, so Qt's are done before ours may follow.
-void finishRequestsOfQt() {
-    const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
-        return;
-    }
-    const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
-        x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
-}
 
 } // namespace
 
@@ -51,7 +42,7 @@ xcb_window_t TrayItem::createWindow() {
     view_.setMinimumSize(leastHeight, leastHeight);
     view_.resize(wantedHeight, wantedHeight);
     const auto window = static_cast<xcb_window_t>(view_.winId());
-    finishRequestsOfQt();
+    synchronizeQt(); // the window exists now, whichever connection asks
     return window;
 }
 
