@@ -1,6 +1,8 @@
 #include "platform/linux/MenuPopup.h"
 
+#include "platform/linux/Connection.h"
 #include "platform/linux/MenuPeer.h"
+#include "platform/linux/QtConnection.h"
 
 #include <QKeyEvent>
 
@@ -15,6 +17,10 @@ MenuPopup::MenuPopup(Menu::Peer& peer, const QString& title) : QMenu(title), pee
 // Qt tells of an item that becomes the one to be chosen, and not when there is none any more.
 bool MenuPopup::event(QEvent* event) {
     const bool isHandled = QMenu::event(event);
+    if (event->type() == QEvent::WinIdChange && internalWinId() != 0) {
+        setWindowType(static_cast<xcb_window_t>(internalWinId()),
+                      Connection::shared().atom(Atom::netWmWindowTypePopupMenu));
+    }
     if (isVisible()) {
         peer_.highlightDidChange();
     }

@@ -1,5 +1,6 @@
 #include "platform/linux/QtConnection.h"
 
+#include "platform/linux/Connection.h"
 #include "platform/linux/Reply.h"
 
 #include <QGuiApplication>
@@ -12,6 +13,15 @@ xcb_connection_t* qtConnection() {
     }
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 != nullptr ? x11->connection() : nullptr;
+}
+
+// Over Qt's connection, which may not have sent the window's creation yet.
+void setWindowType(xcb_window_t window, xcb_atom_t type) {
+    if (xcb_connection_t* const connection = qtConnection()) {
+        const xcb_atom_t name = Connection::shared().atom(Atom::netWmWindowType);
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, name, XCB_ATOM_ATOM, 32, 1,
+                            &type);
+    }
 }
 
 void synchronizeQt() {
