@@ -1,5 +1,8 @@
 #include "platform/linux/Strip.h"
 
+#include "platform/linux/Connection.h"
+#include "platform/linux/QtConnection.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <cmath>
@@ -17,7 +20,8 @@ constexpr int height = 22; // points
 Strip::Strip(const StatusButtonContent& content, std::function<void()> onPress)
     : view_(std::move(onPress)) {
     view_.setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    view_.setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+    setWindowType(static_cast<xcb_window_t>(view_.winId()),
+                  Connection::shared().atom(Atom::netWmWindowTypeDock));
     view_.setAttribute(Qt::WA_ShowWithoutActivating);
     view_.setFocusPolicy(Qt::StrongFocus);
     updateSurroundings();
