@@ -16,8 +16,8 @@ enum class RunLoopMode {
 /// A repeating timer. The run loop that it is added to keeps it until it is invalidated: dropping
 /// the last reference to it does not stop it. It measures running time, not wall-clock time, and
 /// does not run while the machine sleeps; firings that were missed are made up by one. Main thread
-/// only; a block may invalidate its own timer. Stands for NSTimer on macOS, a precise QTimer on
-/// Linux, where timers know no modes: all of them go on while a menu is open.
+/// only; a block may invalidate its own timer. Stands for NSTimer on macOS, a deadline of the event
+/// loop's on Linux, where timers know no modes: all of them go on while a menu is open.
 class Timer {
   public:
     using Interval = std::chrono::duration<double>;

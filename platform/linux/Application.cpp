@@ -6,6 +6,7 @@
 #include "platform/linux/Connection.h"
 #include "platform/linux/EventPump.h"
 #include "platform/linux/LaunchPhase.h"
+#include "platform/linux/LoopSleep.h"
 #include "platform/linux/OwnProcess.h"
 #include "platform/linux/Signals.h"
 #include "platform/linux/SingleInstance.h"
@@ -117,6 +118,7 @@ Application& Application::shared() {
         createQtApplication();
         instance = new Application;
         linux_host::serveFromEventLoop(connection, [] { instance->terminate(); });
+        linux_host::fireTimersFromEventLoop(connection);
     }
     return *instance;
 }

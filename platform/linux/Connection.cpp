@@ -84,16 +84,20 @@ void Connection::dispatchEvents() {
     dispatchQueuedEvents();
 }
 
-void Connection::finishTurn() {
-    dispatchQueuedEvents();
+bool Connection::finishTurn() {
+    const bool hasToldEvents = dispatchQueuedEvents();
     flush();
     ++turn_;
+    return hasToldEvents;
 }
 
-void Connection::dispatchQueuedEvents() {
+bool Connection::dispatchQueuedEvents() {
+    bool hasToldEvents = false;
     while (auto event = Reply<xcb_generic_event_t>(xcb_poll_for_queued_event(connection_))) {
         dispatch(std::move(event));
+        hasToldEvents = true;
     }
+    return hasToldEvents;
 }
 
 void Connection::dispatch(Reply<xcb_generic_event_t> event) {

@@ -56,8 +56,8 @@ class Connection {
 
     /// Ends a turn of the event loop; to be called before it waits. Sends what the turn has left in
     /// the buffer. Tells events too, because waiting for a reply moves them from the socket into
-    /// xcb's queue, where no notifier sees them.
-    void finishTurn();
+    /// xcb's queue, where no notifier sees them; answers whether there were any.
+    bool finishTurn();
 
     /// Counts the turns of the event loop: what was read in an earlier turn is old.
     [[nodiscard]] std::uint64_t turn() const { return turn_; }
@@ -74,7 +74,7 @@ class Connection {
     Connection(xcb_connection_t* connection, int screenNumber);
     ~Connection() = default;
     static Connection* open();
-    void dispatchQueuedEvents();
+    bool dispatchQueuedEvents();
     void dispatch(Reply<xcb_generic_event_t> event);
 
     xcb_connection_t* connection_;

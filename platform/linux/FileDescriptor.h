@@ -17,6 +17,8 @@ class FileDescriptor {
         std::swap(descriptor_, other.descriptor_);
         return *this;
     }
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
     ~FileDescriptor() {
         if (*this) {
             ::close(descriptor_);

@@ -16,6 +16,7 @@ class Inhibitor {
     Inhibitor(std::shared_ptr<MessageBus> bus, const InhibitorService& service, std::string reason);
     Inhibitor(const Inhibitor&) = delete;
     Inhibitor& operator=(const Inhibitor&) = delete;
+    ~Inhibitor() = default;
 
     [[nodiscard]] bool isHeld() const { return hold_ && bus_->isOpen(); }
     /// Whether the service has still to answer.

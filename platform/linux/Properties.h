@@ -39,6 +39,8 @@ class PropertyRequest {
         std::swap(cookie_, other.cookie_);
         return *this;
     }
+    PropertyRequest(const PropertyRequest&) = delete;
+    PropertyRequest& operator=(const PropertyRequest&) = delete;
     ~PropertyRequest();
 
     [[nodiscard]] PropertyItems readItems();

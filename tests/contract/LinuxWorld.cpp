@@ -1,7 +1,12 @@
+#include "contract/LinuxAutostart.h"
+#include "contract/LinuxScreens.h"
 #include "contract/LinuxSettings.h"
 #include "contract/World.h"
+#include "tests/desktop/support/FileDescriptor.h"
 #include "tests/desktop/support/KeyGrabs.h"
 #include "tests/desktop/support/Keyboard.h"
+#include "tests/desktop/support/Log.h"
+#include "tests/desktop/support/Saver.h"
 #include "tests/desktop/support/TestWindows.h"
 #include "tests/desktop/support/VirtualDesktop.h"
 #include "tests/desktop/support/Windows.h"
@@ -10,8 +15,12 @@
 #include <QTimer>
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
+#include <fcntl.h>
 #include <map>
+#include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace {
@@ -52,10 +61,22 @@ void adopt(const desktop::Environment& environment) {
     }
 }
 
+// Without a journal the program's log goes to standard error.
+void captureStandardError(const std::filesystem::path& file) {
+    const desktop::FileDescriptor log(::open(file.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600));
+    if (::dup2(log.number(), STDERR_FILENO) < 0) {
+        throw std::system_error(errno, std::generic_category(), file.string());
+    }
+}
+
 /// A virtual desktop around this process, with real windows of other processes on it.
 class LinuxWorld final : public contract::World {
   public:
-    LinuxWorld() { adopt(desktop_.environment()); }
+    LinuxWorld() {
+        adopt(desktop_.environment());
+        adopt({{"XDG_CONFIG_DIRS", allUsers_}});
+        captureStandardError(log_.file());
+    }
 
     platform::ProcessIdentifier start(platform::ActivationPolicy policy,
                                       const std::vector<std::string>& windows) override {
@@ -116,6 +137,33 @@ class LinuxWorld final : public contract::World {
     }
     void loseStore() override { settings_.lose(); }
 
+    void arrangeScreens(const std::vector<platform::Rect>& frames) override {
+        screens_.arrange(frames);
+    }
+    void movePointer(platform::Point to) override { screens_.movePointer(to); }
+
+    double wallTime() override {
+        using namespace std::chrono;
+        const auto reference = sys_days{January / 1 / 2001};
+        return duration<double>(system_clock::now() - reference).count();
+    }
+
+    bool displayStaysAwake() override {
+        using namespace std::chrono_literals;
+        saver_.startAfter(1s);
+        saver_.waitUntilIdleFor(2s);
+        return !saver_.isShowing();
+    }
+
+    bool startsAtLogin() override { return autostart_.startsThisProgram(); }
+    void turnLoginItemOff() override { autostart_.turnOff(); }
+    void loseLoginItems() override { autostart_.lose(); }
+
+    bool canReadLogs() override {
+        return !std::filesystem::exists("/run/systemd/journal/socket"); // which would take the log
+    }
+    bool hasLogged(const std::string& text) override { return log_.count(text) > 0; }
+
     // A turn of the loop waits for something to happen; the timer is what happens at the latest.
     bool turnUntil(const std::function<bool()>& condition) override {
         const desktop::Deadline deadline;
@@ -136,10 +184,15 @@ class LinuxWorld final : public contract::World {
         platform::ProcessIdentifier program = 0;
     };
 
-    desktop::VirtualDesktop desktop_;
+    desktop::VirtualDesktop desktop_{desktop::WindowManager::openbox, {1600, 1200}};
     desktop::Windows view_{desktop_.display()};
     desktop::Keyboard keyboard_{desktop_.display()};
     desktop::KeyGrabs elsewhere_{desktop_.display()};
+    contract::LinuxScreens screens_{desktop_};
+    desktop::Saver saver_{desktop_.display()};
+    desktop::Log log_{desktop_.logs() / "program"};
+    std::filesystem::path allUsers_{desktop_.home() / "xdg"};
+    contract::LinuxAutostart autostart_{desktop_.configuration(), allUsers_};
     contract::LinuxSettings settings_{desktop_.configuration() / "quellbar"};
     std::map<platform::ProcessIdentifier, std::unique_ptr<desktop::TestWindows>> programs_;
     std::map<std::string, Window> windows_;

@@ -89,6 +89,8 @@ class World {
     /// From now on the registration cannot be changed.
     virtual void loseLoginItems() = 0;
 
+    /// Whether the test can see what is in the system's logs.
+    [[nodiscard]] virtual bool canReadLogs() { return true; }
     /// Whether a line of one of the system's logs, written by this program, holds this text.
     [[nodiscard]] virtual bool hasLogged(const std::string& text) = 0;
 

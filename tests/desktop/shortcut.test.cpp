@@ -104,8 +104,10 @@ TEST_F(Shortcut, IsLeftToAnotherClientThatHoldsIt) {
     session.launch();
     EXPECT_FALSE(session.minimizesBy(defaultShortcut));
     EXPECT_EQ(other.presses(), 1);
-    EXPECT_EQ(session.quellbar->log().text(), "");
+    const Log& log = session.quellbar->log();
+    log.waitFor("CornerHoverMonitor started");
     EXPECT_EQ(session.quellbar->end(), (Ended{.status = 0}));
+    EXPECT_EQ(log.lines().size(), 1U);
 }
 
 TEST_F(Shortcut, IsNotTakenInPartWhenAnotherClientHoldsAPart) {
