@@ -85,7 +85,7 @@ class Bundle(unittest.TestCase):
                 if library is not None and library.endswith("/AppKit")
             }
             with self.subTest(program.architecture):
-                self.assertLessEqual(wanted, classes)
+                self.assertEqual(wanted - classes, set())
 
     def testTheFormatsOfLogMessagesAreWhereTheLogLooksForThem(self):
         for program in self.programs:
@@ -121,6 +121,10 @@ class Bundle(unittest.TestCase):
                 "NSPrincipalClass": "NSApplication",
             },
         )
+
+    def testNothingLiesWhereASignatureWouldNotCoverIt(self):
+        bundle = pathlib.Path(os.environ["QUELLBAR_BUNDLE"])
+        self.assertEqual([entry.name for entry in bundle.iterdir()], ["Contents"])
 
     def testTheOnlyExecutableIsTheOneThatThePropertyListNames(self):
         named = self.executables / self.properties["CFBundleExecutable"]
