@@ -33,11 +33,12 @@ bool waitUntilReadable(int descriptor, const Deadline& deadline) {
 
 void waitUntil(const std::function<bool()>& isSo, const std::string& what,
                const Deadline& deadline) {
-    while (!isSo()) {
+    using namespace std::chrono_literals;
+    for (auto pause = 1ms; !isSo(); pause = std::min(2 * pause, 32ms)) {
         if (deadline.hasPassed()) {
             throw TimedOut(what);
         }
-        std::this_thread::sleep_for(std::chrono::milliseconds{1});
+        std::this_thread::sleep_for(pause);
     }
 }
 

@@ -32,8 +32,9 @@ class Deadline {
 /// Waits until `descriptor` can be read. Answers false when the deadline passes first.
 bool waitUntilReadable(int descriptor, const Deadline& deadline);
 
-/// Waits for a state that nobody announces, by asking again every millisecond. Where an event tells
-/// of the change, wait for the event instead. Throws `TimedOut`, naming `what`.
+/// Waits for a state that nobody announces, by asking again after a millisecond, after two, after
+/// four, up to 32, so that the asking leaves the machine to what is waited for. Where an event
+/// tells of the change, wait for the event instead. Throws `TimedOut`, naming `what`.
 void waitUntil(const std::function<bool()>& isSo, const std::string& what,
                const Deadline& deadline = Deadline());
 
