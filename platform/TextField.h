@@ -27,8 +27,10 @@ class TextField : public View {
     [[nodiscard]] std::string stringValue() const;
     void setStringValue(std::string_view text);
 
-    /// The number at the beginning of the text, 0 where there is none; the nearest 64-bit integer
-    /// where it does not fit.
+    /// The whole number that the text begins with: after any white space a sign, or none, and the
+    /// digits 0 to 9, of no other script; what follows them does not matter ("45.9" and "45 min"
+    /// are 45, "1e3" is 1). 0 where there is none ("", "soon", "- 45", ".5"); the nearest 64-bit
+    /// integer where it does not fit. While the user edits, the text is what the field shows.
     [[nodiscard]] std::int64_t integerValue() const;
     void setIntegerValue(std::int64_t value);
 
