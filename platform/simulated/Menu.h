@@ -39,6 +39,7 @@ class MenuItem {
 
     // For the seam and the menu.
     void attach(platform::MenuItem& self) { self_ = &self; }
+    [[nodiscard]] platform::MenuItem& self() const { return *self_; }
     void setMenu(Menu* menu) { menu_ = menu; }
     void setSubmenu(std::shared_ptr<platform::Menu> submenu);
     void setView(std::shared_ptr<platform::View> view);
