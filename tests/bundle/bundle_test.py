@@ -122,6 +122,17 @@ class Bundle(unittest.TestCase):
             },
         )
 
+    def testTheImagesAndTheIconAreAmongTheResources(self):
+        resources = self.executables.parent / "Resources"
+        names = {"icon_512x512.png", self.properties["CFBundleIconFile"] + ".icns"}
+        for name in ("menubar_icon", "menubar_icon_active"):
+            names |= {f"{name}.png", f"{name}@2x.png"}
+        self.assertEqual({entry.name for entry in resources.iterdir()}, names)
+        for name in names:
+            with self.subTest(name):
+                start = b"icns" if name.endswith(".icns") else b"\x89PNG"
+                self.assertTrue((resources / name).read_bytes().startswith(start))
+
     def testNothingLiesWhereASignatureWouldNotCoverIt(self):
         bundle = pathlib.Path(os.environ["QUELLBAR_BUNDLE"])
         self.assertEqual([entry.name for entry in bundle.iterdir()], ["Contents"])
