@@ -2,11 +2,14 @@
 
 #include "platform/linux/Reply.h"
 
+#include <algorithm>
+
 namespace platform::linux_host {
 
 namespace {
 
 constexpr std::uint32_t allPlanes = ~0U;
+constexpr std::int32_t leastHeight = 8; // of a panel that anything could be seen in
 
 using GeometryReply = Reply<xcb_get_geometry_reply_t>;
 
@@ -22,6 +25,25 @@ QImage imageFrom(const xcb_get_image_reply_t& reply, const GeometryReply& geomet
     return QImage(xcb_get_image_data(&reply), width, height, QImage::Format_RGB32).copy();
 }
 
+PixelRect frameOf(Connection& connection, xcb_window_t window) {
+    xcb_connection_t* const xcb = connection.xcb();
+    const auto geometryCookie = xcb_get_geometry(xcb, window);
+    const auto placeCookie = xcb_translate_coordinates(xcb, window, connection.root(), 0, 0);
+    const GeometryReply geometry(xcb_get_geometry_reply(xcb, geometryCookie, nullptr));
+    const Reply<xcb_translate_coordinates_reply_t> place(
+        xcb_translate_coordinates_reply(xcb, placeCookie, nullptr));
+    if (!geometry || !place) {
+        return {};
+    }
+    return {place->dst_x, place->dst_y, geometry->width, geometry->height};
+}
+
+xcb_window_t parentOf(Connection& connection, xcb_window_t window) {
+    const Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(connection.xcb(), xcb_query_tree(connection.xcb(), window), nullptr));
+    return tree ? tree->parent : xcb_window_t{XCB_WINDOW_NONE};
+}
+
 } // namespace
 
 TrayDock::TrayDock(Connection& connection, xcb_window_t window,
@@ -33,17 +55,19 @@ TrayDock::TrayDock(Connection& connection, xcb_window_t window,
     xcb_change_window_attributes(connection_.xcb(), window_, XCB_CW_EVENT_MASK, &events);
 }
 
+// A tray may give more height than its panel has: the rest is cut off by the windows around.
 PixelRect TrayDock::frame() const {
-    xcb_connection_t* const xcb = connection_.xcb();
-    const auto geometryCookie = xcb_get_geometry(xcb, window_);
-    const auto placeCookie = xcb_translate_coordinates(xcb, window_, connection_.root(), 0, 0);
-    const GeometryReply geometry(xcb_get_geometry_reply(xcb, geometryCookie, nullptr));
-    const Reply<xcb_translate_coordinates_reply_t> place(
-        xcb_translate_coordinates_reply(xcb, placeCookie, nullptr));
-    if (!geometry || !place) {
-        return {};
+    PixelRect frame = frameOf(connection_, window_);
+    for (xcb_window_t outer = parentOf(connection_, window_);
+         outer != connection_.root() && outer != XCB_WINDOW_NONE;
+         outer = parentOf(connection_, outer)) {
+        const PixelRect around = frameOf(connection_, outer);
+        const std::int32_t visible = around.y + around.height - frame.y;
+        if (visible >= leastHeight) { // else the tray has still to lay its windows out
+            frame.height = std::min(frame.height, visible);
+        }
     }
-    return {place->dst_x, place->dst_y, geometry->width, geometry->height};
+    return frame;
 }
 
 // The server paints the ground by itself: that of the window around it, continued.

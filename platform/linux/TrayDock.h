@@ -25,8 +25,8 @@ class TrayDock {
     enum class State { waiting, docked, lost };
     [[nodiscard]] State state() const { return state_; }
 
-    /// What the tray has granted. Its `x` and `y` count from the top left of the X screen. One
-    /// round trip.
+    /// What the tray has granted and shows. Its `x` and `y` count from the top left of the X
+    /// screen. Two round trips for each window around.
     [[nodiscard]] PixelRect frame() const;
 
     /// What the tray shows where the window is, for windows that cannot be seen through. Null when

@@ -28,7 +28,7 @@ TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonC
     patience_.setInterval(timeToMakeRoom);
     QObject::connect(&patience_, &QTimer::timeout, &view_, [this] {
         isCramped_ = true;
-        useRoom();
+        readRoom();
     });
     setContent(content);
     tray.requestDock(static_cast<xcb_window_t>(view_.winId()));
@@ -59,15 +59,14 @@ void TrayItem::dockDidChange(TrayDock::Change change) {
     case TrayDock::Change::state:
         if (state() == TrayDock::State::docked) {
             view_.show();
+            patience_.start();
             readRoom();
         }
         onChange_();
         return;
     case TrayDock::Change::size:
-        readRoom();
-        updateSurroundings();
-        return;
     case TrayDock::Change::ground:
+        readRoom();
         updateSurroundings();
         return;
     }
@@ -101,12 +100,9 @@ void TrayItem::askForRoom() {
 
 // A tray that has once been seen to give no more room is not waited for again.
 void TrayItem::useRoom() {
-    const bool isEnough = granted_.width() >= wantedWidth();
-    if (isEnough) {
-        patience_.stop();
-        isCramped_ = false;
-    }
     using Form = StatusButtonFace::Form;
+    const bool isEnough = granted_.width() >= wantedWidth();
+    isCramped_ = isCramped_ && !isEnough;
     view_.setRoom(granted_, isCramped_ ? Form::compact : Form::full);
 }
 

@@ -13,9 +13,11 @@ class VirtualDesktop;
 /// Keys by their position, as X numbers them (the kernel's number plus 8). The letters are those of
 /// the US layout; another layout changes what a key types, not which key it is.
 namespace key {
+inline constexpr xcb_keycode_t escape = 9;
 inline constexpr xcb_keycode_t digit1 = 10;
 inline constexpr xcb_keycode_t q = 24;
 inline constexpr xcb_keycode_t o = 32;
+inline constexpr xcb_keycode_t returnKey = 36;
 inline constexpr xcb_keycode_t leftControl = 37;
 inline constexpr xcb_keycode_t a = 38;
 inline constexpr xcb_keycode_t k = 45;
@@ -25,6 +27,8 @@ inline constexpr xcb_keycode_t m = 58;
 inline constexpr xcb_keycode_t leftAlt = 64;
 inline constexpr xcb_keycode_t capsLock = 66;
 inline constexpr xcb_keycode_t numLock = 77;
+inline constexpr xcb_keycode_t right = 114;
+inline constexpr xcb_keycode_t down = 116;
 inline constexpr xcb_keycode_t leftSuper = 133;
 } // namespace key
 

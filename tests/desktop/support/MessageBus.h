@@ -20,6 +20,9 @@ class MessageBus {
     /// Kills the bus.
     void kill() { process_->end(SIGKILL); }
 
+    /// Has the bus take connections, but never answer, until this object ends.
+    void hang() const { process_->signal(SIGSTOP); }
+
   private:
     std::optional<Process> process_;
     std::string address_;

@@ -24,6 +24,10 @@ class VirtualDesktop {
     /// The display's name, such as ":7".
     [[nodiscard]] const std::string& display() const { return server_.display(); }
     [[nodiscard]] const Environment& environment() const { return environment_; }
+    /// For all programs that are started from now on.
+    void setVariable(const std::string& name, std::string value) {
+        environment_[name] = std::move(value);
+    }
 
     /// $HOME, $XDG_CONFIG_HOME, and a folder for what the processes of the desktop say.
     [[nodiscard]] std::filesystem::path home() const { return folder_.path() / "home"; }
