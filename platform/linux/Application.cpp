@@ -147,7 +147,7 @@ void Application::run() {
 
 void Application::terminate() {
     tellDelegateOfTermination();
-    QCoreApplication::quit();
+    QCoreApplication::exit(); // unlike quit(), asks no window to close first
 }
 
 bool Application::setActivationPolicy(ActivationPolicy policy) {

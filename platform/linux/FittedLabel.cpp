@@ -12,6 +12,7 @@ namespace platform::linux_host {
 namespace {
 
 constexpr int smallestFont = 7; // pixels; what is larger even so is cut
+constexpr int sideMargin = 6; // pixels, at each end of a text in the middle, so as not to crowd it
 
 } // namespace
 
@@ -60,8 +61,11 @@ void FittedLabel::paintEvent(QPaintEvent* event) {
 
 // Of one line only the width counts: what a font leaves free above and below may well be cut.
 bool FittedLabel::fits(const QFont& font) const {
-    return wordWrap() ? TextBlock(text(), font, size()).height() <= height()
-                      : QFontMetrics(font).horizontalAdvance(text()) <= width();
+    if (wordWrap()) {
+        return TextBlock(text(), font, size()).height() <= height();
+    }
+    const int margins = alignment().testFlag(Qt::AlignHCenter) ? 2 * sideMargin : 0;
+    return QFontMetrics(font).horizontalAdvance(text()) + margins <= width();
 }
 
 void FittedLabel::fit() {

@@ -7,7 +7,7 @@
 #include "platform/linux/WindowMessages.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QCloseEvent>
 #include <QScreen>
 #include <algorithm>
 #include <vector>
@@ -93,6 +93,12 @@ void TitledWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange && isVisible() && !isMinimized()) {
         setMayBeMinimized(Connection::shared(), idOf(*this), false);
     }
+}
+
+// Qt would give up the window on the X server, and its place with it.
+void TitledWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    hide();
 }
 
 void TitledWindow::applyActivationPolicy() {

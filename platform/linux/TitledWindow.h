@@ -39,6 +39,7 @@ class TitledWindow final : public QWidget {
 
   protected:
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 };
 
 } // namespace platform::linux_host

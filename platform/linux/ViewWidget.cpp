@@ -87,11 +87,24 @@ bool ViewWidget::event(QEvent* event) {
         event->accept();
         return true;
     }
-    if (event->type() == QEvent::KeyPress && isTaken(*view_, static_cast<QKeyEvent&>(*event))) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::KeyRelease) {
+        const auto& release = static_cast<const QKeyEvent&>(*event);
+        lastRelease_ = {.key = release.nativeScanCode(), .time = release.timestamp()};
+    }
+    if (event->type() == QEvent::KeyPress) {
+        const auto& press = static_cast<const QKeyEvent&>(*event);
+        if (isRepeat(press) || isTaken(*view_, press)) {
+            event->accept();
+            return true;
+        }
     }
     return QWidget::event(event);
+}
+
+// The server repeats a held key as a release and a press of the same moment. Qt tells so only when
+// both have arrived by the time it looks.
+bool ViewWidget::isRepeat(const QKeyEvent& press) const {
+    return lastRelease_ == Release{.key = press.nativeScanCode(), .time = press.timestamp()};
 }
 
 void ViewWidget::enterEvent(QEnterEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
 
 namespace platform {
 
@@ -33,7 +34,17 @@ class ViewWidget final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// A key's going up, by its scan code.
+    struct Release {
+        std::uint32_t key = 0;
+        std::uint64_t time = 0;
+        bool operator==(const Release&) const = default;
+    };
+
+    [[nodiscard]] bool isRepeat(const QKeyEvent& press) const;
+
     View* view_ = nullptr;
+    Release lastRelease_;
 };
 
 } // namespace linux_host
