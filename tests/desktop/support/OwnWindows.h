@@ -1,10 +1,11 @@
 #pragma once
 
 #include "tests/desktop/support/Keyboard.h"
+#include "tests/desktop/support/Menus.h"
 #include "tests/desktop/support/Pointer.h"
+#include "tests/desktop/support/StatusItem.h"
 #include "tests/desktop/support/XDisplay.h"
 
-#include <functional>
 #include <string>
 
 namespace desktop {
@@ -23,8 +24,8 @@ struct ScreenPoint {
     bool operator==(const ScreenPoint&) const = default;
 };
 
-/// What the program itself shows, used as its user does: with pointer and keyboard. On a desktop
-/// without a system tray, where the status item is a strip of its own. Waiting throws `TimedOut`.
+/// The program's own windows, used as its user does: with pointer and keyboard. Waiting throws
+/// `TimedOut`.
 class OwnWindows {
   public:
     explicit OwnWindows(const std::string& display);
@@ -37,7 +38,8 @@ class OwnWindows {
     xcb_window_t openSettings();
     xcb_window_t openAbout();
 
-    /// Clicks into a window.
+    /// Clicks into a window, and returns when the window manager has let the click through to it: a
+    /// key that is pressed then comes after the click.
     void click(xcb_window_t window, ContentPoint place);
 
     /// Closes a window as its close button does, and waits until it is gone from the screen.
@@ -50,13 +52,14 @@ class OwnWindows {
     [[nodiscard]] bool isOnTop(xcb_window_t window) const;
 
   private:
-    [[nodiscard]] xcb_window_t find(const std::function<bool(xcb_window_t)>& isSought) const;
-    [[nodiscard]] xcb_window_t openedMenu() const;
-    [[nodiscard]] xcb_window_t statusItem() const;
+    void waitUntilClickIsThrough() const;
     xcb_window_t waitForActive(const std::string& title);
+    [[nodiscard]] bool hasKeyboard(xcb_window_t window) const;
     [[nodiscard]] bool isViewable(xcb_window_t window) const;
 
     XDisplay display_;
+    StatusItem item_;
+    Menus menus_;
     Pointer pointer_;
     Keyboard keyboard_;
 };

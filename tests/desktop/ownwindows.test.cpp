@@ -1,0 +1,128 @@
+// The program's own windows among those of other programs, on every window manager.
+#include "tests/desktop/support/OwnWindows.h"
+#include "tests/desktop/EveryManager.h"
+#include "tests/desktop/Session.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace desktop;
+
+constexpr auto skipTaskbar = "_NET_WM_STATE_SKIP_TASKBAR";
+constexpr auto skipPager = "_NET_WM_STATE_SKIP_PAGER";
+
+// In the settings window.
+constexpr ContentPoint dockIconCheckbox{.x = 60, .y = 112};
+
+/// Covers all of the screen but its edges.
+const WindowSpec largeWindow{.geometry = {.x = 40, .y = 40, .width = 1180, .height = 700}};
+
+class TheProgramsWindows : public testing::TestWithParam<WindowManager> {
+  protected:
+    void launch(std::string_view settings = "{}") {
+        storeDefaults(session.desktop, settings);
+        session.launch();
+    }
+
+    void waitForState(xcb_window_t window, std::string_view state, bool isSet) {
+        waitUntil([&] { return session.windows.hasState(window, state) == isSet; },
+                  std::string(state) + " to change");
+    }
+
+    Session session{GetParam()};
+    OwnWindows own{session.desktop.display()};
+};
+
+INSTANTIATE_TEST_SUITE_P(, TheProgramsWindows, everyManager, testing::PrintToStringParamName());
+
+TEST_P(TheProgramsWindows, ComeInFrontOfAnotherProgramThatHasTheKeyboard) {
+    const auto other = session.application.open(largeWindow);
+    launch();
+    session.windows.restore(other);
+    waitUntil([&] { return own.isActive(other); }, "the other program to be active");
+    const auto settings = own.openSettings();
+    EXPECT_TRUE(own.isOnTop(settings));
+    session.windows.restore(other);
+    waitUntil([&] { return own.isActive(other); }, "the other program to be active again");
+    const auto about = own.openAbout();
+    EXPECT_TRUE(own.isOnTop(about));
+    session.windows.restore(other);
+    waitUntil([&] { return own.isActive(other); }, "the other program to be active once more");
+    EXPECT_EQ(own.openSettings(), settings);
+    EXPECT_TRUE(own.isOnTop(settings));
+}
+
+TEST_P(TheProgramsWindows, ComeBackWhereTheyWereClosed) {
+    launch();
+    const auto settings = own.openSettings();
+    const ScreenPoint first = own.place(settings);
+    session.windows.move(settings, 111, 222);
+    waitUntil([&] { return own.place(settings) != first; }, "the window to move");
+    session.windows.settle();
+    const ScreenPoint moved = own.place(settings);
+    for (int i = 0; i < 3; ++i) {
+        own.close(settings);
+        EXPECT_EQ(own.openSettings(), settings);
+        session.windows.settle();
+        EXPECT_EQ(own.place(settings), moved);
+    }
+}
+
+TEST_P(TheProgramsWindows, AreOutOfTheTaskBarWithoutTheDockIcon) {
+    launch();
+    const auto settings = own.openSettings();
+    waitForState(settings, skipTaskbar, true);
+    waitForState(settings, skipPager, true);
+    own.close(settings);
+    own.openSettings();
+    waitForState(settings, skipTaskbar, true);
+    waitForState(settings, skipPager, true);
+}
+
+TEST_P(TheProgramsWindows, EnterAndLeaveTheTaskBarWithTheDockIcon) {
+    launch();
+    const auto settings = own.openSettings();
+    waitForState(settings, skipTaskbar, true);
+    own.click(settings, dockIconCheckbox);
+    waitForState(settings, skipTaskbar, false);
+    waitForState(settings, skipPager, false);
+    own.click(settings, dockIconCheckbox);
+    waitForState(settings, skipTaskbar, true);
+    waitForState(settings, skipPager, true);
+}
+
+TEST_P(TheProgramsWindows, AreLeftAloneByMinimizeAllWithoutTheDockIcon) {
+    launch();
+    const auto settings = own.openSettings();
+    waitForState(settings, skipTaskbar, true);
+    EXPECT_TRUE(session.minimizesBy(defaultShortcut));
+    EXPECT_FALSE(session.windows.isHidden(settings));
+}
+
+// As often as the user likes: the window may be minimized by programs again after it came back, and
+// by its own controls it may not.
+TEST_P(TheProgramsWindows, AreMinimizedWithAllOthersWithTheDockIcon) {
+    launch(R"({"enableDockIcon": true})");
+    const auto settings = own.openSettings();
+    const auto about = own.openAbout();
+    for (int i = 0; i < 2; ++i) {
+        session.keyboard.press(defaultShortcut);
+        session.windows.waitUntilHidden(settings);
+        session.windows.waitUntilHidden(about);
+        EXPECT_EQ(own.openSettings(), settings);
+        session.windows.waitUntilShown(settings);
+        EXPECT_EQ(own.openAbout(), about);
+        session.windows.waitUntilShown(about);
+    }
+}
+
+TEST_P(TheProgramsWindows, LeaveTheStatusItemWhereItIsWhenTheyAreMinimized) {
+    launch(R"({"enableDockIcon": true})");
+    const auto settings = own.openSettings();
+    session.keyboard.press(defaultShortcut);
+    session.windows.waitUntilHidden(settings);
+    own.openMenu();
+}
+
+} // namespace
