@@ -49,6 +49,11 @@ void FittedLabel::resizeEvent(QResizeEvent* event) {
     fit();
 }
 
+void FittedLabel::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
+    fit();
+}
+
 void FittedLabel::paintEvent(QPaintEvent* event) {
     if (!wordWrap()) {
         QLabel::paintEvent(event);
@@ -68,7 +73,11 @@ bool FittedLabel::fits(const QFont& font) const {
     return QFontMetrics(font).horizontalAdvance(text()) + margins <= width();
 }
 
+// Not before it is seen: the first text to be measured has all fonts of the desktop looked up.
 void FittedLabel::fit() {
+    if (!isVisible()) {
+        return;
+    }
     QFont font = wantedFont_;
     for (int pixels = QFontInfo(font).pixelSize(); pixels > smallestFont && !fits(font);) {
         font.setPixelSize(--pixels);

@@ -1,6 +1,7 @@
 #include "platform/linux/ImagePeer.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace platform {
@@ -9,8 +10,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// The format is that of the suffix: to find it out, Qt loads the plug-ins of all the others.
 QImage read(const fs::path& file) {
-    return QImageReader(QFile::decodeName(file.c_str())).read();
+    const QString name = QFile::decodeName(file.c_str());
+    QImageReader reader(name, QFileInfo(name).suffix().toLatin1());
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
 }
 
 fs::path detailedVariantOf(const fs::path& file) {

@@ -79,6 +79,7 @@ void Menu::Peer::willOpen() {
     for (const auto& item : items) {
         MenuItem::Peer& peer = item->peer();
         peer.action.setEnabled(!autoenablesItems || hasSomebodyToAnswer(peer));
+        peer.action.willShowIn(*popup);
         if (const auto& view = peer.action.view()) {
             moveToWindow(*view, &window);
         }

@@ -105,9 +105,13 @@ QFont StatusButtonFace::titleFont(int height) const {
     return font;
 }
 
+// Without a text nothing is measured: the first measure has all fonts of the desktop looked up.
 double StatusButtonFace::titleWidth(int height) const {
-    const QFontMetricsF metrics(titleFont(height));
     QString widest = title();
+    if (widest.isEmpty()) {
+        return 0;
+    }
+    const QFontMetricsF metrics(titleFont(height));
     std::replace_if(widest.begin(), widest.end(), isDigit, widestDigit(metrics));
     return metrics.horizontalAdvance(widest);
 }
@@ -155,6 +159,9 @@ void StatusButtonFace::paintFull(QPainter& painter, QSize size,
         painter,
         centred({side, side}, isAlone ? QRect(QPoint(), size) : QRect(left, 0, side, height)),
         surroundings);
+    if (isAlone) {
+        return;
+    }
     const QFont font = titleFont(height);
     const double baseline = baselineFor(QFontMetricsF(font), height) -
                             content_.title.baselineOffset.value_or(0) * scale_;

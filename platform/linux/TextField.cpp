@@ -36,6 +36,9 @@ struct LabelPeer final : TextPeer {
         : TextPeer(newLabel, sizedFor(*newLabel)), label(*newLabel) {}
 
     static Rect sizedFor(const FittedLabel& label) {
+        if (label.text().isEmpty()) {
+            return {};
+        }
         const QSize size = label.sizeHint();
         return {.origin = {},
                 .size = {.width = static_cast<double>(size.width()),

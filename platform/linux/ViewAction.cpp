@@ -19,15 +19,19 @@ int heightOfTextItem(const QWidget& menu) {
 
 } // namespace
 
-// As high as the menu's other items at least, whatever its font.
 QWidget* ViewAction::createWidget(QWidget* parent) {
     if (!view_) {
         return nullptr;
     }
     QWidget* const widget = view_->peer().widget;
     widget->setParent(parent);
-    widget->setMinimumHeight(heightOfTextItem(*parent));
     return widget;
+}
+
+void ViewAction::willShowIn(const QWidget& menu) {
+    if (view_) {
+        view_->peer().widget->setMinimumHeight(heightOfTextItem(menu));
+    }
 }
 
 void ViewAction::deleteWidget(QWidget* widget) {

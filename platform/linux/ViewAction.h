@@ -17,6 +17,9 @@ class ViewAction final : public QWidgetAction {
     void setView(std::shared_ptr<View> view) { view_ = std::move(view); }
     [[nodiscard]] const std::shared_ptr<View>& view() const { return view_; }
 
+    /// Has the view be as high as the other items of the menu at least, whatever their font.
+    void willShowIn(const QWidget& menu);
+
   protected:
     QWidget* createWidget(QWidget* parent) override;
     void deleteWidget(QWidget* widget) override;

@@ -101,8 +101,9 @@ void View::Peer::resizeFrom(Size oldSize) {
     }
 }
 
+// Outside a window nobody sees the place, and the fonts that it is measured with are dear.
 void View::Peer::contentDidChange() {
-    if (superview != nullptr && centering) {
+    if (superview != nullptr && centering && view->window() != nullptr) {
         center(*view, superview->peer());
         superview->peer().widget->updateGeometry();
     }
@@ -118,6 +119,7 @@ void View::Peer::moveToWindow() {
     }
     if (view->window() != nullptr) {
         view->updateTrackingAreas();
+        contentDidChange();
     }
     view->viewDidMoveToWindow();
     for (const auto& subview : subviews) {
