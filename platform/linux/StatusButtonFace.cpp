@@ -18,10 +18,10 @@ constexpr double imagePoints = 18;
 constexpr double marginPoints = 2;
 constexpr double mostMargin = 1.0 / 11;   // of the height, in a low panel
 constexpr double mostOfHeight = 0.75;     // a line of text in a low panel
+constexpr double imageAboveTitle = 0.6;   // of the height, in the compact form
 constexpr double compactHeight = 0.55;    // the short title in its square, at most ...
 constexpr int leastCompactPixels = 7;     // ... and at least
 constexpr double narrowestLetters = 0.75; // how far they may be pressed together
-constexpr double imageBehindTitle = 0.35; // opacity
 
 QString programName() {
     return QString::fromUtf8(applicationName);
@@ -170,14 +170,16 @@ void StatusButtonFace::paintFull(QPainter& painter, QSize size,
     painter.drawText(QPointF(left + side, baseline), title());
 }
 
+// The image gives way to the time. It keeps its colours: what is faint is darker in trays that take
+// colours not to be multiplied by their opacity, as tint2 does.
 void StatusButtonFace::paintCompact(QPainter& painter, QSize size,
                                     const QPalette& surroundings) const {
-    const QString text = shortTitle();
-    const int side = imageSide(std::min(size.width(), size.height()));
-    painter.setOpacity(text.isEmpty() ? 1 : imageBehindTitle);
-    paintImage(painter, centred({side, side}, QRect(QPoint(), size)), surroundings);
-    painter.setOpacity(1);
-    if (!text.isEmpty()) {
+    const bool hasTitle = !shortTitle().isEmpty();
+    const int side = hasTitle ? qRound(size.height() * imageAboveTitle)
+                              : imageSide(std::min(size.width(), size.height()));
+    const QRect room(0, 0, size.width(), hasTitle ? side : size.height());
+    paintImage(painter, centred({side, side}, room), surroundings);
+    if (hasTitle) {
         paintShortTitle(painter, size, surroundings);
     }
 }
@@ -212,7 +214,7 @@ void StatusButtonFace::paintShortTitle(QPainter& painter, QSize size,
     const double squeeze = std::min(1.0, size.width() / width);
     painter.save();
     painter.translate((size.width() - width * squeeze) / 2,
-                      baselineFor(QFontMetricsF(font), size.height()));
+                      size.height() - margin(size.height()) / 2);
     painter.scale(squeeze, 1);
     painter.setFont(font);
     painter.setPen(titleColor(surroundings));

@@ -30,8 +30,8 @@ class StatusButtonFace {
     /// the widest one, so that a countdown keeps its width and its neighbours their places.
     [[nodiscard]] int fullWidth(int height) const;
 
-    /// `compact` is for room that is too narrow for the full form: the image with the title, cut
-    /// short, over it.
+    /// `compact` is for room that is too narrow for the full form: the title, cut short, at the
+    /// bottom of the image.
     enum class Form { full, compact };
 
     /// Paints into the rectangle from the origin to `size`. `surroundings`: the text and the ground

@@ -15,8 +15,8 @@ namespace desktop {
 /// is launched, the program.
 class Session {
   public:
-    explicit Session(WindowManager manager = WindowManager::openbox)
-        : desktop(manager), windows(desktop.display()), keyboard(desktop.display()),
+    explicit Session(WindowManager manager = WindowManager::openbox, ScreenSize size = {})
+        : desktop(manager, size), windows(desktop.display()), keyboard(desktop.display()),
           application(desktop) {}
 
     /// Starts the program and returns when it has launched.

@@ -19,6 +19,8 @@ class ScreenPicture {
     /// As 0xRRGGBB. Counted from the top left of the part.
     [[nodiscard]] std::uint32_t pixel(int x, int y) const;
 
+    bool operator==(const ScreenPicture&) const = default;
+
   private:
     int width_;
     int height_;
