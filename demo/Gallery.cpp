@@ -140,6 +140,11 @@ void Gallery::end() {
 
 void Gallery::startCounting() {
     user_->choose(item::row);
+    waitForCountdown();
+}
+
+// By then the tray has moved its icons: until then, a click could miss them.
+void Gallery::waitForCountdown() const {
     user_->item().waitUntil([](const ItemSight& sight) { return sight.showsRed; }, "a countdown");
 }
 
@@ -168,7 +173,7 @@ void Gallery::takeMenus() {
     user_->moveToLine(0, user_->lineOf(item::row));
     takeMenu("menu-highlighted");
     user_->pointer().click();
-    user_->menus().waitUntilOpen(0);
+    waitForCountdown();
     user_->openMenu();
     takeMenu("menu-on");
     end();

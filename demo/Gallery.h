@@ -33,6 +33,7 @@ class Gallery {
     void start();
     void end();
     void startCounting();
+    void waitForCountdown() const;
     void takeItem(const std::string& what);
     void takeMenu(const std::string& what);
     void takeWindow(std::size_t opener, const std::string& what);
