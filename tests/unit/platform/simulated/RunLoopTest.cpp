@@ -216,6 +216,15 @@ TEST_F(SimulatedRunLoop, AScheduledTimerIsOneOfTheDefaultMode) {
     EXPECT_THAT(fired, IsEmpty());
 }
 
+TEST_F(SimulatedRunLoop, WhereTimersKnowNoModesFiresThemAllWhileItTracks) {
+    addTimer(100ms, note('c'));
+    addTimer(100ms, note('d'), RunLoopMode::defaultMode);
+    runLoop().timersKnowModes = false;
+    runLoop().beginTracking();
+    runLoop().run(200ms);
+    EXPECT_EQ(names, "cdcd");
+}
+
 TEST_F(SimulatedRunLoop, AfterTrackingATimerFiresOnceForAllThatItMissed) {
     addTimer(100ms, note(), RunLoopMode::defaultMode);
     runLoop().beginTracking();
