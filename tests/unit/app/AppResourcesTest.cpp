@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <optional>
+#include <ostream>
+
 namespace {
 
 using simulated::desktop;
@@ -130,15 +133,23 @@ TEST_F(AppResourcesTest, ImagesOfEverySizeAreFound) {
     EXPECT_EQ(AppResources::image("wall")->size(), (platform::Size{4096, 4096}));
 }
 
-/// What a file of an image may hold instead.
-class BrokenImage : public AppResourcesTest,
-                    public testing::WithParamInterface<std::pair<std::string, std::string>> {
+/// What stands in the place of an image's file; no content is that of a folder.
+struct Stand {
+    std::string name;
+    std::optional<std::string> content;
+};
+
+void PrintTo(const Stand& stand, std::ostream* stream) {
+    *stream << stand.name;
+}
+
+class BrokenImage : public AppResourcesTest, public testing::WithParamInterface<Stand> {
   protected:
     static void addBroken(const std::filesystem::path& file) {
-        if (GetParam().first == "AFolder") {
-            desktop().files.addFolder(file);
+        if (const auto& content = GetParam().content) {
+            desktop().files.addFile(file, *content);
         } else {
-            desktop().files.addFile(file, GetParam().second);
+            desktop().files.addFolder(file);
         }
     }
 };
@@ -160,14 +171,14 @@ TEST_P(BrokenImage, AtTheTopOfTheResourceBundleIsNoImage) {
     EXPECT_EQ(AppResources::image("icon"), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Holds, BrokenImage,
-    testing::Values(std::pair("AFolder", ""), std::pair("Nothing", ""),
-                    std::pair("Text", "not an image"),
-                    std::pair("TheBeginning", pngFile(18, 18).substr(0, 40)),
-                    std::pair("AllButTheLastByte",
-                              pngFile(18, 18).substr(0, pngFile(18, 18).size() - 1)),
-                    std::pair("ASizeOfNothing", pngFile(0, 0))),
-    [](const auto& broken) { return broken.param.first; });
+INSTANTIATE_TEST_SUITE_P(ThatIs, BrokenImage,
+                         testing::Values(Stand{"AFolder", std::nullopt}, Stand{"Empty", ""},
+                                         Stand{"Text", "not an image"},
+                                         Stand{"CutOffEarly", pngFile(18, 18).substr(0, 40)},
+                                         Stand{
+                                             "CutOffBeforeItsLastByte",
+                                             pngFile(18, 18).substr(0, pngFile(18, 18).size() - 1)},
+                                         Stand{"OfNoSize", pngFile(0, 0)}),
+                         [](const auto& broken) { return broken.param.name; });
 
 } // namespace
