@@ -66,6 +66,12 @@ TEST(SimulatedPng, IsNoneWithoutWidthOrHeight) {
     EXPECT_EQ(sizeOfPng(pngFile(18, 0)), std::nullopt);
 }
 
+TEST(SimulatedPng, IsNoneWithoutAPicture) {
+    std::string content = pngFile(18, 18);
+    content.erase(content.find("IDAT") - 4, 12);
+    EXPECT_EQ(sizeOfPng(content), std::nullopt);
+}
+
 TEST(SimulatedPng, IsNoneWithAnotherSignatureOrAPartThatPretendsToBeLong) {
     std::string content = pngFile(18, 18);
     content.at(1) = 'J';
