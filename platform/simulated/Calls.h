@@ -12,8 +12,8 @@ namespace simulated {
 
 /// What the program asked of the desktop: one line a call, in order, as the call would be written,
 /// for example "registerEventHotKey(46, 0x900, QLBR, 1)". Applications and windows appear by name.
-/// Reaching a process-wide object (`current()`, `standard()`, a later `shared()`) is no call, nor is
-/// reading back what the program itself has set, such as a title or a frame.
+/// Reaching a process-wide object (`current()`, `standard()`, a later `shared()`) is no call, nor
+/// is reading back what the program itself has set, such as a title or a frame.
 class Calls {
   public:
     [[nodiscard]] const std::vector<std::string>& all() const { return calls_; }
