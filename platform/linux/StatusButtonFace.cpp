@@ -153,21 +153,23 @@ void StatusButtonFace::paintFull(QPainter& painter, QSize size,
                                  const QPalette& surroundings) const {
     const int height = size.height();
     const int side = image() != nullptr ? imageSide(height) : 0;
-    const int left = std::max(0, (size.width() - fullWidth(height)) / 2) + margin(height);
-    const bool isAlone = title().isEmpty();
-    paintImage(
-        painter,
-        centred({side, side}, isAlone ? QRect(QPoint(), size) : QRect(left, 0, side, height)),
-        surroundings);
-    if (isAlone) {
+    if (title().isEmpty()) {
+        paintImage(painter, centred({side, side}, QRect(QPoint(), size)), surroundings);
         return;
     }
+    const int left = std::max(0, (size.width() - fullWidth(height)) / 2) + margin(height);
+    paintImage(painter, centred({side, side}, QRect(left, 0, side, height)), surroundings);
+    paintTitle(painter, left + side, height, surroundings);
+}
+
+void StatusButtonFace::paintTitle(QPainter& painter, int left, int height,
+                                  const QPalette& surroundings) const {
     const QFont font = titleFont(height);
     const double baseline = baselineFor(QFontMetricsF(font), height) -
                             content_.title.baselineOffset.value_or(0) * scale_;
     painter.setFont(font);
     painter.setPen(titleColor(surroundings));
-    painter.drawText(QPointF(left + side, baseline), title());
+    painter.drawText(QPointF(left, baseline), title());
 }
 
 // The image gives way to the time. It keeps its colours: what is faint is darker in trays that take

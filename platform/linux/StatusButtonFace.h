@@ -54,6 +54,7 @@ class StatusButtonFace {
     void paintFull(QPainter& painter, QSize size, const QPalette& surroundings) const;
     void paintCompact(QPainter& painter, QSize size, const QPalette& surroundings) const;
     void paintImage(QPainter& painter, QRect square, const QPalette& surroundings) const;
+    void paintTitle(QPainter& painter, int left, int height, const QPalette& surroundings) const;
     void paintShortTitle(QPainter& painter, QSize size, const QPalette& surroundings) const;
     [[nodiscard]] QColor titleColor(const QPalette& surroundings) const;
 

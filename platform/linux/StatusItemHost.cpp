@@ -120,7 +120,11 @@ void StatusItemHost::openMenu() {
         return;
     }
     QMenu& menu = *menu_->peer().popup;
-    menu.popup(menuPlace(inPoints(pixels, *screen), menu.sizeHint(), screen->geometry()));
+    const auto placeFor = [&](QSize size) {
+        return menuPlace(inPoints(pixels, *screen), size, screen->geometry());
+    };
+    menu.popup(placeFor(menu.sizeHint()));
+    menu.move(placeFor(menu.size())); // what is in it has been measured only now
 }
 
 } // namespace platform::linux_host

@@ -133,10 +133,10 @@ TEST_P(AnyTray, AtTheBottomHasTheMenuAboveTheItem) {
     storeDefaults(session.desktop, R"({"hotCorners": []})");
     startTray(GetParam(), {.isAtBottom = true});
     launch();
-    const ItemSight sight = user.item().waitUntilIn(ItemPlace::tray);
+    user.item().waitUntilIn(ItemPlace::tray);
     user.openMenu();
     const Geometry menu = user.menus().frames().front();
-    EXPECT_LE(menu.y + menu.height, sight.frame.y + 1);
+    EXPECT_LE(menu.y + menu.height, user.item().look()->frame.y + 1);
     EXPECT_GE(menu.y, 0);
 }
 
