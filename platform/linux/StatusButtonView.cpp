@@ -86,6 +86,13 @@ void StatusButtonView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void StatusButtonView::changeEvent(QEvent* event) {
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && onAppearanceChange) {
+        onAppearanceChange();
+    }
+}
+
 // The tip is made when it is asked for: with every second of a countdown it is another one. Qt does
 // not know the place of a window in a tray, so the tip goes by the pointer.
 bool StatusButtonView::event(QEvent* event) {

@@ -15,6 +15,9 @@ class StatusButtonView : public QAbstractButton {
     /// `onPress` is called at the moment at which a menu should open.
     explicit StatusButtonView(std::function<void()> onPress);
 
+    /// Called when the colours of the program have changed.
+    std::function<void()> onAppearanceChange;
+
     void setContent(const StatusButtonContent& content);
     [[nodiscard]] StatusButtonFace face() const;
 
@@ -29,6 +32,7 @@ class StatusButtonView : public QAbstractButton {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
   private:

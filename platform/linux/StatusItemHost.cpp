@@ -37,7 +37,7 @@ const QScreen* screenOf(const PixelRect& pixels) {
 } // namespace
 
 StatusItemHost::StatusItemHost()
-    : connection_(Connection::shared()), tray_(connection_, [this] { updateLater(); }) {
+    : connection_(Connection::shared()), tray_(connection_, [this] { trayDidChange(); }) {
     updates_.setSingleShot(true);
     patience_.setSingleShot(true);
     patience_.setInterval(timeToDock);
@@ -55,6 +55,14 @@ void StatusItemHost::contentDidChange() {
 
 void StatusItemHost::setMenu(std::shared_ptr<Menu> menu) {
     menu_ = std::move(menu);
+}
+
+// Another tray is for the update; the same one may have other colours.
+void StatusItemHost::trayDidChange() {
+    if (item_ && item_->tray() == tray_.window()) {
+        item_->setStyle(tray_.style());
+    }
+    updateLater();
 }
 
 // What the X server tells may come at any time, even while a window of ours is at work: nothing is

@@ -26,6 +26,7 @@ class StatusItemHost {
     StatusItemHost& operator=(const StatusItemHost&) = delete;
 
   private:
+    void trayDidChange();
     void update();
     void updateLater();
     void updateTrayItem();

@@ -24,6 +24,7 @@ Strip::Strip(const StatusButtonContent& content, std::function<void()> onPress)
                   Connection::shared().atom(Atom::netWmWindowTypeDock));
     view_.setAttribute(Qt::WA_ShowWithoutActivating);
     view_.setFocusPolicy(Qt::StrongFocus);
+    view_.onAppearanceChange = [this] { updateSurroundings(); };
     updateSurroundings();
     setContent(content);
     watchScreens();

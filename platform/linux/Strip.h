@@ -17,10 +17,8 @@ class Strip {
     /// Where it is, in pixels of the X server.
     [[nodiscard]] PixelRect frame() const;
 
-    /// Takes the colours of the program anew.
-    void updateSurroundings();
-
   private:
+    void updateSurroundings();
     void watchScreens();
     void watch(QScreen* screen);
     void place();

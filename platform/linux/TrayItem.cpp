@@ -30,6 +30,7 @@ TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonC
         isCramped_ = true;
         readRoom();
     });
+    view_.onAppearanceChange = [this] { updateSurroundings(); };
     setContent(content);
     tray.requestDock(static_cast<xcb_window_t>(view_.winId()));
 }
@@ -104,6 +105,11 @@ void TrayItem::useRoom() {
     const bool isEnough = granted_.width() >= wantedWidth();
     isCramped_ = isCramped_ && !isEnough;
     view_.setRoom(granted_, isCramped_ ? Form::compact : Form::full);
+}
+
+void TrayItem::setStyle(const TrayStyle& style) {
+    style_.foreground = style.foreground;
+    updateSurroundings();
 }
 
 void TrayItem::updateSurroundings() {

@@ -25,10 +25,12 @@ class TrayItem {
     /// Where it is, in pixels of the X server.
     [[nodiscard]] PixelRect frame() const { return dock_.frame(); }
 
-    /// Reads anew what colours and ground the tray has.
-    void updateSurroundings();
+    /// Takes the colours that the tray names from now on. Whether it blends is settled for its
+    /// item.
+    void setStyle(const TrayStyle& style);
 
   private:
+    void updateSurroundings();
     xcb_window_t createWindow();
     void dockDidChange(TrayDock::Change change);
     void readRoom();

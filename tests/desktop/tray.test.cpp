@@ -1,7 +1,9 @@
 // The status item among trays that come, go, refuse and die: it is never invisible.
 #include "tests/desktop/MenuUser.h"
+#include "tests/desktop/support/FakeTray.h"
 #include "tests/desktop/support/MessageBus.h"
 #include "tests/desktop/support/Monitors.h"
+#include "tests/desktop/support/ScreenPicture.h"
 
 #include <gtest/gtest.h>
 
@@ -9,23 +11,6 @@ namespace {
 
 using namespace desktop;
 namespace fs = std::filesystem;
-
-/// Says that it is a system tray, and takes nothing.
-class RefusingTray {
-  public:
-    explicit RefusingTray(const std::string& display) : display_(display) {
-        const xcb_window_t window = xcb_generate_id(display_.connection());
-        xcb_create_window(display_.connection(), XCB_COPY_FROM_PARENT, window, display_.root(), 0,
-                          0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0,
-                          nullptr);
-        xcb_set_selection_owner(display_.connection(), window, display_.atom("_NET_SYSTEM_TRAY_S0"),
-                                XCB_CURRENT_TIME);
-        display_.sync();
-    }
-
-  private:
-    XDisplay display_;
-};
 
 class TrayTest {
   public:
@@ -140,7 +125,28 @@ TEST_P(AnyTray, AtTheBottomHasTheMenuAboveTheItem) {
     EXPECT_GE(menu.y, 0);
 }
 
-class ItemTest : public testing::Test, public TrayTest {};
+class ItemTest : public testing::Test, public TrayTest {
+  protected:
+    [[nodiscard]] bool trayShows(std::uint32_t color) const {
+        const ScreenPicture picture(display_, FakeTray::place);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixel(x, y) == color) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    void waitForColorInTray(std::uint32_t color) const {
+        waitUntil([&] { return trayShows(color); }, "a colour in the tray",
+                  Deadline(std::chrono::seconds{20}));
+    }
+
+  private:
+    XDisplay display_{session.desktop.display()};
+};
 
 TEST_F(ItemTest, IsInAStripAtTheTopRightWithoutATray) {
     launch();
@@ -151,7 +157,7 @@ TEST_F(ItemTest, IsInAStripAtTheTopRightWithoutATray) {
 }
 
 TEST_F(ItemTest, IsInAStripWhenTheTrayDoesNotTakeIt) {
-    const RefusingTray refusing(session.desktop.display());
+    const FakeTray refusing(session.desktop.display());
     launch();
     EXPECT_EQ(user.item().look()->place, ItemPlace::strip);
     expectTheMenuToWork();
@@ -159,12 +165,53 @@ TEST_F(ItemTest, IsInAStripWhenTheTrayDoesNotTakeIt) {
 
 TEST_F(ItemTest, GoesFromARefusingTrayToARealOne) {
     {
-        const RefusingTray refusing(session.desktop.display());
+        const FakeTray refusing(session.desktop.display());
         launch();
     }
     startTray(TrayProgram::trayer);
     user.item().waitUntilIn(ItemPlace::tray);
     expectTheMenuToWork();
+}
+
+TEST_F(ItemTest, IsInAStripAgainWhenTheTrayPutsItOut) {
+    FakeTray fake(session.desktop.display());
+    session.launch();
+    fake.waitForRequest();
+    fake.take();
+    user.item().waitUntilIn(ItemPlace::tray);
+    fake.putOut();
+    user.item().waitUntilIn(ItemPlace::strip);
+    expectTheMenuToWork();
+}
+
+TEST_F(ItemTest, IsTakenByATrayThatTakesItsTime) {
+    FakeTray fake(session.desktop.display());
+    session.launch();
+    fake.waitForRequest();
+    user.item().waitUntilIn(ItemPlace::strip);
+    fake.take();
+    user.item().waitUntilIn(ItemPlace::tray);
+}
+
+TEST_F(ItemTest, HasTheColorsOfTheTray) {
+    FakeTray fake(session.desktop.display(), 0x103050);
+    fake.nameForeground(0x40FF80);
+    session.launch();
+    fake.waitForRequest();
+    fake.take();
+    waitForColorInTray(0x40FF80);
+    EXPECT_TRUE(trayShows(0x103050));
+    EXPECT_FALSE(trayShows(0x000000));
+    fake.nameForeground(0xFFC0E0);
+    waitForColorInTray(0xFFC0E0);
+}
+
+TEST_F(ItemTest, IsReadableInATrayThatNamesNoColors) {
+    FakeTray fake(session.desktop.display(), 0x103050);
+    session.launch();
+    fake.waitForRequest();
+    fake.take();
+    waitForColorInTray(0xFFFFFF);
 }
 
 TEST_F(ItemTest, StaysWithTheFirstOfTwoTraysUntilThatEnds) {
