@@ -29,9 +29,16 @@ TextBlock::TextBlock(const QString& text, const QFont& font, QSizeF area)
     }
     layout_.endLayout();
     spacing_ = spacingFor(font, area.height() / std::max(layout_.lineCount(), 1));
+    placeLines(font);
+}
+
+// In the middle of its place is what is seen of a line, from the top of a "d" to the foot of a "g".
+void TextBlock::placeLines(const QFont& font) {
+    const QRectF ink = QFontMetricsF(font).tightBoundingRect(QStringLiteral("dg"));
+    const double baseline = (spacing_ - ink.height()) / 2 - ink.top();
     for (int i = 0; i < layout_.lineCount(); ++i) {
         QTextLine line = layout_.lineAt(i);
-        line.setPosition({0, i * spacing_ + (spacing_ - line.height()) / 2});
+        line.setPosition({0, i * spacing_ + baseline - line.ascent()});
     }
 }
 

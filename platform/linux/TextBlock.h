@@ -18,6 +18,8 @@ class TextBlock {
     void draw(QPainter& painter) const { layout_.draw(&painter, {}); }
 
   private:
+    void placeLines(const QFont& font);
+
     QTextLayout layout_;
     double spacing_ = 0; ///< from line to line
 };
