@@ -60,10 +60,11 @@ std::int64_t Stepper::integerValue() const {
     return arrowsOf(*this).value();
 }
 
+// Qt would go on at the other limit here, too.
 void Stepper::setIntegerValue(std::int64_t value) {
     StepperArrows& arrows = arrowsOf(*this);
     const QSignalBlocker silence(arrows);
-    arrows.setValue(clampedToInt(value));
+    arrows.setValue(std::clamp(clampedToInt(value), arrows.minimum(), arrows.maximum()));
 }
 
 } // namespace platform

@@ -6,11 +6,23 @@
 
 namespace platform::linux_host {
 
-// The field would take digits that nobody sees.
+// Qt disables an arrow at its limit unless the numbers wrap. The field would take digits that
+// nobody sees.
 StepperArrows::StepperArrows() {
     setWrapping(true);
     lineEdit()->setReadOnly(true);
     lineEdit()->hide();
+}
+
+void StepperArrows::stepBy(int steps) {
+    const qint64 next = value() + qint64{steps} * singleStep();
+    if (next > maximum()) {
+        setValue(minimum());
+    } else if (next < minimum()) {
+        setValue(maximum());
+    } else {
+        setValue(static_cast<int>(next));
+    }
 }
 
 // No style draws the arrows without the field that they belong to; what is left of that in so

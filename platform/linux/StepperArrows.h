@@ -10,6 +10,9 @@ class StepperArrows final : public QSpinBox {
   public:
     StepperArrows();
 
+    /// Beyond a limit is the other one, also when the step would lead past the limit.
+    void stepBy(int steps) override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 };

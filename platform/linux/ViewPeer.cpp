@@ -1,6 +1,7 @@
 #include "platform/linux/ViewPeer.h"
 
 #include "platform/linux/MenuItemPeer.h"
+#include "platform/linux/ViewAccessibility.h"
 #include "platform/linux/ViewSpace.h"
 
 #include <algorithm>
@@ -106,6 +107,9 @@ void View::Peer::contentDidChange() {
     if (superview != nullptr && centering && view->window() != nullptr) {
         center(*view, superview->peer());
         superview->peer().widget->updateGeometry();
+    }
+    if (superview != nullptr && superview->peer().click) {
+        linux_host::announceText(*superview);
     }
     if (MenuItem* const item = view->enclosingMenuItem()) {
         item->peer().viewDidChange();

@@ -1,6 +1,7 @@
 #include "platform/Window.h"
 
 #include "platform/linux/TitledWindow.h"
+#include "platform/linux/ViewAccessibility.h"
 #include "platform/linux/ViewPeer.h"
 #include "platform/linux/WindowPeer.h"
 
@@ -24,6 +25,7 @@ Window::Window(Size contentSize, std::string_view title)
                    wholePixels(contentSize),
                    QString::fromUtf8(title.data(), static_cast<qsizetype>(title.size()))),
                .contentView = std::make_shared<View>(Rect{.origin = {}, .size = contentSize})})) {
+    linux_host::describeViews();
     View::Peer& content = peer_->contentView->peer();
     content.window = this;
     content.widget->setParent(peer_->widget);
@@ -51,6 +53,7 @@ View* Window::contentView() const {
 }
 
 void Window::makeKeyAndOrderFront() {
+    linux_host::nameControls(*peer_->contentView);
     static_cast<TitledWindow&>(*peer_->widget).orderFront();
 }
 
