@@ -68,7 +68,7 @@ TEST_F(ViewContract, PointsOfTheWindowAreTurnedIntoTheViewsOwn) {
 }
 
 TEST_F(ViewContract, ASizableSubviewFollowsItsSuperviewAndOthersStay) {
-    View view({});
+    View view(Rect{});
     const auto sizable = std::make_shared<View>(view.bounds());
     const auto fixed = std::make_shared<View>(frame);
     sizable->setAutoresizingMask(platform::AutoresizingMask::widthAndHeightSizable);
