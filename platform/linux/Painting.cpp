@@ -27,8 +27,7 @@ QColor qColorOf(const CGColor& color) {
 } // namespace
 
 // The border lies within the bounds, as wide as it is.
-void linux_host::paintLayer(QPainter& painter, const View::Peer::Layer& layer,
-                            const QRectF& bounds) {
+void linux_host::paintLayer(QPainter& painter, const Layer& layer, const QRectF& bounds) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(layer.background ? QBrush(qColorOf(*layer.background)) : QBrush(Qt::NoBrush));
     painter.setPen(layer.borderWidth > 0 && layer.border

@@ -8,7 +8,7 @@ class QPainter;
 namespace platform::linux_host {
 
 /// Paints the layer of a view that has one.
-void paintLayer(QPainter& painter, const View::Peer::Layer& layer, const QRectF& bounds);
+void paintLayer(QPainter& painter, const Layer& layer, const QRectF& bounds);
 
 /// Lets a view draw itself with this painter, which the functions of "platform/Drawing.h" use
 /// meanwhile.

@@ -13,7 +13,7 @@ namespace {
 
 using linux_host::outermost;
 
-View::Peer::Layer& layerOf(View& view) {
+linux_host::Layer& layerOf(View& view) {
     auto& layer = view.peer().layer;
     if (!layer) {
         layer.emplace();
@@ -78,7 +78,7 @@ void View::setAutoresizingMask(AutoresizingMask mask) {
 }
 
 void View::constrainCenteredVertically(View& subview, double leading, double trailing) {
-    subview.peer().centering = Peer::Centering{.leading = leading, .trailing = trailing};
+    subview.peer().centering = linux_host::Centering{.leading = leading, .trailing = trailing};
     subview.peer().contentDidChange();
 }
 

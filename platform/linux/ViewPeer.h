@@ -11,23 +11,27 @@
 
 namespace platform {
 
+namespace linux_host {
+
+/// How a view is placed by constraints: see `View::constrainCenteredVertically`.
+struct Centering {
+    double leading = 0;
+    double trailing = 0;
+};
+
+/// What is painted under a view that has asked for a layer.
+struct Layer {
+    double cornerRadius = 0;
+    double borderWidth = 0;
+    std::optional<CGColor> background;
+    std::optional<CGColor> border;
+};
+
+} // namespace linux_host
+
 /// The native part of a view: a widget, and the place of the view among others. Controls derive
 /// from it.
 struct View::Peer {
-    /// How a view is placed by constraints: see `View::constrainCenteredVertically`.
-    struct Centering {
-        double leading = 0;
-        double trailing = 0;
-    };
-
-    /// What is painted under a view that has asked for a layer.
-    struct Layer {
-        double cornerRadius = 0;
-        double borderWidth = 0;
-        std::optional<CGColor> background;
-        std::optional<CGColor> border;
-    };
-
     /// Takes the widget over.
     Peer(QWidget* newWidget, Rect newFrame) : widget(newWidget), frame(newFrame) {}
     virtual ~Peer();
@@ -56,14 +60,14 @@ struct View::Peer {
     Rect frame;               ///< in the superview
     Size minimumSize;         ///< as the program last asked for it
     AutoresizingMask autoresizing = AutoresizingMask::none;
-    std::optional<Centering> centering;
+    std::optional<linux_host::Centering> centering;
     View* superview = nullptr;
     std::vector<std::shared_ptr<View>> subviews;
 
     Window* window = nullptr;     ///< of the outermost view alone
     MenuItem* menuItem = nullptr; ///< of the outermost view alone
 
-    std::optional<Layer> layer;
+    std::optional<linux_host::Layer> layer;
     std::function<void()> click;
     std::map<TrackingArea, Rect> trackingAreas;
     bool pointerIsInside = false;
