@@ -92,7 +92,7 @@ std::string geometryOf(const Crop& crop) {
 
 } // namespace
 
-Gallery::Gallery(fs::path folder, Appearance appearance, int scale)
+Gallery::Gallery(const fs::path& folder, Appearance appearance, int scale)
     : folder_(fs::absolute(folder)), appearance_(appearance), scale_(scale),
       session_(WindowManager::openbox, screenFor(scale)), display_(session_.desktop.display()) {
     fs::create_directories(folder_);

@@ -17,7 +17,7 @@ class Gallery {
   public:
     /// The pictures go to the folder, which is made if need be: "<what>-<appearance>.png" and, at
     /// two pixels a point, "<what>-<appearance>@2x.png".
-    Gallery(std::filesystem::path folder, Appearance appearance, int scale);
+    Gallery(const std::filesystem::path& folder, Appearance appearance, int scale);
 
     /// Takes all pictures. Throws when the program does not show what it should.
     void takeAll();

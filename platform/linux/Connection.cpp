@@ -105,8 +105,8 @@ void Connection::dispatch(Reply<xcb_generic_event_t> event) {
     if (!event || isError) {
         return;
     }
-    for (std::size_t i = 0; i < handlers_.size(); ++i) { // a handler may subscribe another one
-        if (const Subscription handler = handlers_[i].lock()) {
+    for (const auto& each : handlers_) { // a handler may subscribe another one
+        if (const Subscription handler = each.lock()) {
             (*handler)(*event);
         }
     }

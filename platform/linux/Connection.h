@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <list>
 #include <memory>
 #include <vector>
 #include <xcb/xcb.h>
@@ -82,7 +83,7 @@ class Connection {
     const xcb_setup_t* setup_;
     const xcb_screen_t* screen_;
     Atoms atoms_;
-    std::vector<std::weak_ptr<const EventHandler>> handlers_;
+    std::list<std::weak_ptr<const EventHandler>> handlers_; ///< grows while it is walked
     std::vector<Subscription> lastingSubscriptions_;
     std::uint32_t rootEvents_ = XCB_EVENT_MASK_NO_EVENT;
     std::uint64_t turn_ = 0;

@@ -216,7 +216,7 @@ void StatusButtonFace::paintShortTitle(QPainter& painter, QSize size,
     const double squeeze = std::min(1.0, size.width() / width);
     painter.save();
     painter.translate((size.width() - width * squeeze) / 2,
-                      size.height() - margin(size.height()) / 2);
+                      size.height() - margin(size.height()) / 2.0);
     painter.scale(squeeze, 1);
     painter.setFont(font);
     painter.setPen(titleColor(surroundings));

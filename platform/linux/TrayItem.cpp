@@ -18,8 +18,9 @@ constexpr auto timeToMakeRoom = 500ms;
 
 } // namespace
 
-TrayItem::TrayItem(Connection& connection, const SystemTray& tray, StatusButtonContent content,
-                   std::function<void()> onPress, std::function<void()> onChange)
+TrayItem::TrayItem(Connection& connection, const SystemTray& tray,
+                   const StatusButtonContent& content, std::function<void()> onPress,
+                   std::function<void()> onChange)
     : connection_(connection), tray_(tray.window()), style_(tray.style()),
       onChange_(std::move(onChange)), view_(std::move(onPress)),
       dock_(connection, createWindow(),

@@ -14,7 +14,7 @@ class TrayItem {
   public:
     /// Asks the tray for a place. `onChange` is called from the event loop when `state` may have
     /// changed.
-    TrayItem(Connection& connection, const SystemTray& tray, StatusButtonContent content,
+    TrayItem(Connection& connection, const SystemTray& tray, const StatusButtonContent& content,
              std::function<void()> onPress, std::function<void()> onChange);
 
     void setContent(const StatusButtonContent& content);

@@ -7,6 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <functional>
+
 namespace {
 
 using namespace desktop;
@@ -270,9 +274,8 @@ TEST_F(ItemTest, StripIsAsWideAsTheShapeOfTheTimeNeeds) {
     const auto oneDigit = widthWhenNot(twoDigits);
     user.choose(keepAwakeMenu, 1);
     EXPECT_EQ(widthWhenNot(oneDigit), idle);
-    EXPECT_GT(withHours, twoDigits);
-    EXPECT_GT(twoDigits, oneDigit);
-    EXPECT_GT(oneDigit, idle);
+    const std::array falling{withHours, twoDigits, oneDigit, idle};
+    EXPECT_EQ(std::ranges::adjacent_find(falling, std::ranges::less_equal()), falling.end());
 }
 
 TEST_F(ItemTest, ShowsTheNameOfTheProgramWhenThereAreNoImages) {
