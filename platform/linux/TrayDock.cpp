@@ -9,7 +9,7 @@ namespace platform::linux_host {
 namespace {
 
 constexpr std::uint32_t allPlanes = ~0U;
-constexpr std::int32_t leastHeight = 8; // of a panel that anything could be seen in
+constexpr std::int32_t leastLength = 8; // of a panel that anything could be seen in
 
 using GeometryReply = Reply<xcb_get_geometry_reply_t>;
 
@@ -44,6 +44,11 @@ xcb_window_t parentOf(Connection& connection, xcb_window_t window) {
     return tree ? tree->parent : xcb_window_t{XCB_WINDOW_NONE};
 }
 
+// A tray that has still to lay its windows out leaves next to nothing to be seen, for a moment.
+std::int32_t cutOff(std::int32_t length, std::int32_t visible) {
+    return visible >= leastLength ? std::min(length, visible) : length;
+}
+
 } // namespace
 
 TrayDock::TrayDock(Connection& connection, xcb_window_t window,
@@ -55,17 +60,16 @@ TrayDock::TrayDock(Connection& connection, xcb_window_t window,
     xcb_change_window_attributes(connection_.xcb(), window_, XCB_CW_EVENT_MASK, &events);
 }
 
-// A tray may give more height than its panel has: the rest is cut off by the windows around.
+// A tray may give more than it has, trayer in height and xfce4-panel in width: the rest is cut off
+// by the windows around.
 PixelRect TrayDock::frame() const {
     PixelRect frame = frameOf(connection_, window_);
     for (xcb_window_t outer = parentOf(connection_, window_);
          outer != connection_.root() && outer != XCB_WINDOW_NONE;
          outer = parentOf(connection_, outer)) {
         const PixelRect around = frameOf(connection_, outer);
-        const std::int32_t visible = around.y + around.height - frame.y;
-        if (visible >= leastHeight) { // else the tray has still to lay its windows out
-            frame.height = std::min(frame.height, visible);
-        }
+        frame.width = cutOff(frame.width, around.x + around.width - frame.x);
+        frame.height = cutOff(frame.height, around.y + around.height - frame.y);
     }
     return frame;
 }

@@ -131,8 +131,8 @@ TEST_P(AnyTray, AtTheBottomHasTheMenuAboveTheItem) {
 
 class ItemTest : public testing::Test, public TrayTest {
   protected:
-    [[nodiscard]] bool trayShows(std::uint32_t color) const {
-        const ScreenPicture picture(display_, FakeTray::place);
+    [[nodiscard]] bool shows(const FakeTray& fake, std::uint32_t color) const {
+        const ScreenPicture picture(display_, fake.place());
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
                 if (picture.pixel(x, y) == color) {
@@ -143,8 +143,8 @@ class ItemTest : public testing::Test, public TrayTest {
         return false;
     }
 
-    void waitForColorInTray(std::uint32_t color) const {
-        waitUntil([&] { return trayShows(color); }, "a colour in the tray",
+    void waitForColor(const FakeTray& fake, std::uint32_t color) const {
+        waitUntil([&] { return shows(fake, color); }, "a colour in the tray",
                   Deadline(std::chrono::seconds{20}));
     }
 
@@ -203,11 +203,11 @@ TEST_F(ItemTest, HasTheColorsOfTheTray) {
     session.launch();
     fake.waitForRequest();
     fake.take();
-    waitForColorInTray(0x40FF80);
-    EXPECT_TRUE(trayShows(0x103050));
-    EXPECT_FALSE(trayShows(0x000000));
+    waitForColor(fake, 0x40FF80);
+    EXPECT_TRUE(shows(fake, 0x103050));
+    EXPECT_FALSE(shows(fake, 0x000000));
     fake.nameForeground(0xFFC0E0);
-    waitForColorInTray(0xFFC0E0);
+    waitForColor(fake, 0xFFC0E0);
 }
 
 TEST_F(ItemTest, IsReadableInATrayThatNamesNoColors) {
@@ -215,7 +215,16 @@ TEST_F(ItemTest, IsReadableInATrayThatNamesNoColors) {
     session.launch();
     fake.waitForRequest();
     fake.take();
-    waitForColorInTray(0xFFFFFF);
+    waitForColor(fake, 0xFFFFFF);
+}
+
+TEST_F(ItemTest, ShowsTheTimeInATrayThatGivesMoreRoomThanItHas) {
+    FakeTray fake(session.desktop.display(), 0x000000, 30);
+    session.launch();
+    fake.waitForRequest();
+    fake.take();
+    user.item().waitUntilIn(ItemPlace::tray);
+    startCounting();
 }
 
 TEST_F(ItemTest, StaysWithTheFirstOfTwoTraysUntilThatEnds) {

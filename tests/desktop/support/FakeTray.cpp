@@ -6,14 +6,15 @@ namespace desktop {
 namespace {
 
 constexpr auto selection = "_NET_SYSTEM_TRAY_S0";
+constexpr std::uint16_t height = 24;
+constexpr std::uint16_t grantedWidth = 100;
 
 // No window manager sees it.
-xcb_window_t createPanel(const XDisplay& display, std::uint32_t ground) {
+xcb_window_t createPanel(const XDisplay& display, const Geometry& place, std::uint32_t ground) {
     const xcb_window_t window = xcb_generate_id(display.connection());
     const std::array<std::uint32_t, 2> values{ground, 1};
-    xcb_create_window(display.connection(), XCB_COPY_FROM_PARENT, window, display.root(),
-                      FakeTray::place.x, FakeTray::place.y, FakeTray::place.width,
-                      FakeTray::place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+    xcb_create_window(display.connection(), XCB_COPY_FROM_PARENT, window, display.root(), place.x,
+                      place.y, place.width, place.height, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                       XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT,
                       values.data());
     xcb_map_window(display.connection(), window);
@@ -22,8 +23,9 @@ xcb_window_t createPanel(const XDisplay& display, std::uint32_t ground) {
 
 } // namespace
 
-FakeTray::FakeTray(const std::string& display, std::uint32_t ground)
-    : display_(display), window_(createPanel(display_, ground)) {
+FakeTray::FakeTray(const std::string& display, std::uint32_t ground, std::uint16_t width)
+    : display_(display), place_{.x = 0, .y = 0, .width = width, .height = height},
+      window_(createPanel(display_, place_, ground)) {
     xcb_set_selection_owner(display_.connection(), window_, display_.atom(selection),
                             XCB_CURRENT_TIME);
     display_.sync();
@@ -53,7 +55,7 @@ void FakeTray::waitForRequest() {
 }
 
 void FakeTray::take() {
-    const std::array<std::uint32_t, 2> size{place.width, place.height};
+    const std::array<std::uint32_t, 2> size{grantedWidth, height};
     xcb_reparent_window(display_.connection(), guest_, window_, 0, 0);
     xcb_configure_window(display_.connection(), guest_,
                          XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size.data());

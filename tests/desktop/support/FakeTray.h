@@ -10,13 +10,14 @@
 namespace desktop {
 
 /// A system tray that does what a test wants. It is at the top left of the screen and takes one
-/// window, which gets all of it.
+/// window, which gets a width of 100 pixels, even if the tray is not that wide.
 class FakeTray {
   public:
-    static constexpr Geometry place{.x = 0, .y = 0, .width = 100, .height = 24};
+    /// Takes the place of the tray.
+    explicit FakeTray(const std::string& display, std::uint32_t ground = 0x000000,
+                      std::uint16_t width = 100);
 
-    /// Takes the place of the tray, unless another has it.
-    explicit FakeTray(const std::string& display, std::uint32_t ground = 0x000000);
+    [[nodiscard]] const Geometry& place() const { return place_; }
 
     /// Says that text and symbols are to have this colour, as 0xRRGGBB.
     void nameForeground(std::uint32_t color);
@@ -30,6 +31,7 @@ class FakeTray {
 
   private:
     XDisplay display_;
+    Geometry place_;
     xcb_window_t window_;
     xcb_window_t guest_ = XCB_NONE;
 };
