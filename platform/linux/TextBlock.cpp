@@ -3,6 +3,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
 
 namespace platform::linux_host {
 
@@ -38,7 +39,8 @@ void TextBlock::placeLines(const QFont& font) {
     const double baseline = (spacing_ - ink.height()) / 2 - ink.top();
     for (int i = 0; i < layout_.lineCount(); ++i) {
         QTextLine line = layout_.lineAt(i);
-        line.setPosition({0, i * spacing_ + baseline - line.ascent()});
+        // Rounded up, the foot of the last line would be beyond the end of the area.
+        line.setPosition({0, std::floor(i * spacing_ + baseline) - line.ascent()});
     }
 }
 
