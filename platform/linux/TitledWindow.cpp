@@ -81,7 +81,7 @@ void TitledWindow::orderFront() {
     Connection::shared().flush();
 }
 
-// What the hints forbid to the user the window manager forbids to programs too, so they allow it
+// What the hints forbid to the user some window managers forbid to programs too, so they allow it
 // until the window is back.
 void TitledWindow::minimize() {
     setMayBeMinimized(Connection::shared(), idOf(*this), true);
