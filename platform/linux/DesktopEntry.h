@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-/// The files in which the desktops describe programs, as the Desktop Entry Specification has them.
+/// The files in which the desktops describe programs, as freedesktop.org has agreed on them.
 namespace platform::linux_host {
 
 /// The group "[Desktop Entry]" of such a file.

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\n";
 
-// Escaped as the specification says, dex leaves all of these but ' as they are written, and systemd
+// Escaped as freedesktop.org has it, dex leaves all of these but ' as they are written, and systemd
 // 252 all of them, even an executable's '. GLib undoes them.
 constexpr std::string_view launchersDisagreeOn = "%\"'`$\\";
 
