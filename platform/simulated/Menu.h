@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Menu.h"
+#include "platform/Window.h"
 
 #include <memory>
 #include <string>
