@@ -77,12 +77,12 @@ void tellDelegateOfTermination() {
     }
 }
 
-// Qt calls exit() from within the loop when it is the first to find that the X server is gone. That
-// is an end like any other: the delegate hears of it, and the status is that of `terminate()`. What
-// would come after this, the destruction of static objects, is not fit to run inside the loop.
+// Qt calls exit() from within the loop when it is the first to find that the X server is gone.
+// Parts of Qt have been destroyed by then, so the delegate, which would show the end, is not told;
+// grabs and holds end with their connections. The destruction of the other static objects is not
+// fit to run inside the loop either.
 void endWithServer() {
     if (loopIsRunning) {
-        tellDelegateOfTermination();
         std::_Exit(EXIT_SUCCESS);
     }
 }

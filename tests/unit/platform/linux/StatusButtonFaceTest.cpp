@@ -81,6 +81,18 @@ class StatusButtonFaceTest : public testing::Test {
     }
 
     /// The smallest rectangle with everything that is not of the ground's colour.
+    /// Thin strokes have no pixel of their full colour.
+    static int countReddish(const QImage& image) {
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb pixel = image.pixel(x, y);
+                found += qRed(pixel) > qGreen(pixel) + 40 ? 1 : 0;
+            }
+        }
+        return found;
+    }
+
     static QRect inked(const QImage& image, QRgb ground = 0xFFFFFFFF) {
         QRect rect;
         for (int y = 0; y < image.height(); ++y) {
@@ -157,7 +169,7 @@ TEST_F(StatusButtonFaceTest, TakesTheRedForLightAndForDark) {
 TEST_F(StatusButtonFaceTest, ShowsTheTimeInASquareToo) {
     for (const char* const time : {"1:30:00", "29:59", "0:01", "2376:00:00"}) {
         const QImage image = paint(counting(time), {24, 24}, Form::compact);
-        EXPECT_GT(count(image, redOnLight), 0) << time;
+        EXPECT_GT(countReddish(image), 0) << time;
         EXPECT_LE(inked(image).width(), 24) << time;
     }
 }
