@@ -43,11 +43,20 @@ class MenuUser {
     [[nodiscard]] const Menus& menus() const { return menus_; }
     [[nodiscard]] Pointer& pointer() { return pointer_; }
 
-    /// Clicks the status item and waits for the menu.
+    /// Clicks the status item and waits for the menu. An item that has gone from under the pointer,
+    /// as it may when a panel comes or goes, is clicked again where it is then.
     void openMenu(std::uint8_t button = 1) {
-        const ItemSight sight = item_.waitUntil([](const ItemSight&) { return true; }, "an item");
-        pointer_.moveTo(sight.centerX(), sight.centerY());
-        pointer_.click(button);
+        ItemSight clicked = clickItem(button);
+        waitUntil(
+            [&] {
+                const bool isOpen = !menus_.frames().empty();
+                const auto sight = item_.look();
+                if (!isOpen && sight && sight->centerX() != clicked.centerX()) {
+                    clicked = clickItem(button);
+                }
+                return isOpen;
+            },
+            "the menu");
         lines_ = menus_.waitForItems(item::count);
     }
 
@@ -86,6 +95,13 @@ class MenuUser {
     }
 
   private:
+    ItemSight clickItem(std::uint8_t button) {
+        const ItemSight sight = item_.waitUntil([](const ItemSight&) { return true; }, "an item");
+        pointer_.moveTo(sight.centerX(), sight.centerY());
+        pointer_.click(button);
+        return sight;
+    }
+
     void clickLine(std::size_t menu, int line) {
         moveToLine(menu, line);
         pointer_.click();
