@@ -69,7 +69,7 @@ void bringToFront(platform::Window* window) {
 } // namespace
 
 std::shared_ptr<StatusItemController> StatusItemController::create() {
-    const std::shared_ptr<StatusItemController> controller(new StatusItemController);
+    std::shared_ptr<StatusItemController> controller(new StatusItemController);
     controller->configureButton();
     controller->buildMenu();
     KeepAwakeManager::shared().delegate = controller;
