@@ -3,8 +3,8 @@
 #include "platform/Menu.h"
 #include "platform/TextField.h"
 #include "platform/Window.h"
-#include "platform/linux/MenuItemPeer.h"
-#include "platform/linux/ViewPeer.h"
+#include "platform/linux/menu/MenuItemPeer.h"
+#include "platform/linux/views/ViewPeer.h"
 
 #include <QAccessible>
 #include <QFontMetrics>

@@ -26,7 +26,7 @@ class CheckIncludes(unittest.TestCase):
         self.assertEqual("", complaints_about(path, line + "\n"))
 
     def test_a_room_that_knows_a_host_is_found(self):
-        self.assert_found("minimize/A.cpp", '#include "platform/linux/Connection.h"')
+        self.assert_found("minimize/A.cpp", '#include "platform/linux/x11/Connection.h"')
 
     def test_a_room_that_knows_a_toolkit_is_found(self):
         self.assert_found("app/A.cpp", "#include <QApplication>")

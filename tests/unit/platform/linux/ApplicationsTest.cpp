@@ -1,4 +1,4 @@
-#include "platform/linux/Applications.h"
+#include "platform/linux/windowmanager/Applications.h"
 
 #include <gmock/gmock.h>
 

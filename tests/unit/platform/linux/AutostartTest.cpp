@@ -1,7 +1,7 @@
 #include "TemporaryFolder.h"
 
-#include "platform/linux/Autostart.h"
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/loginitem/Autostart.h"
+#include "platform/linux/loginitem/DesktopEntry.h"
 
 #include <gtest/gtest.h>
 

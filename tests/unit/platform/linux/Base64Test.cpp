@@ -1,4 +1,4 @@
-#include "platform/linux/Base64.h"
+#include "platform/linux/defaults/Base64.h"
 
 #include <gtest/gtest.h>
 

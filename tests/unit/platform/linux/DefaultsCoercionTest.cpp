@@ -1,4 +1,4 @@
-#include "platform/linux/DefaultsCoercion.h"
+#include "platform/linux/defaults/DefaultsCoercion.h"
 
 #include <gtest/gtest.h>
 

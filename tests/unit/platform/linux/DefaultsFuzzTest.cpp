@@ -1,8 +1,8 @@
-#include "platform/linux/DefaultsStore.h"
+#include "platform/linux/defaults/DefaultsStore.h"
 
 #include "TemporaryFolder.h"
 
-#include "platform/linux/JsonObject.h"
+#include "platform/linux/defaults/JsonObject.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,10 +1,10 @@
-#include "platform/linux/DefaultsStore.h"
+#include "platform/linux/defaults/DefaultsStore.h"
 
 #include "ChildProcess.h"
 #include "StandardError.h"
 #include "TemporaryFolder.h"
 
-#include "platform/linux/LogEntry.h"
+#include "platform/linux/log/LogEntry.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/DefaultsStore.h"
+#include "platform/linux/defaults/DefaultsStore.h"
 
 #include "ChildProcess.h"
 #include "CommaLocale.h"

@@ -1,4 +1,4 @@
-#include "platform/linux/DesktopEntry.h"
+#include "platform/linux/loginitem/DesktopEntry.h"
 
 #include <gtest/gtest.h>
 

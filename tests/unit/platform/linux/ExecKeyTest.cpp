@@ -1,4 +1,4 @@
-#include "platform/linux/ExecKey.h"
+#include "platform/linux/loginitem/ExecKey.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "TemporaryFolder.h"
 
-#include "platform/linux/Executable.h"
+#include "platform/linux/files/Executable.h"
 
 #include <gtest/gtest.h>
 

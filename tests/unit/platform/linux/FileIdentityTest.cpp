@@ -1,4 +1,4 @@
-#include "platform/linux/FileIdentity.h"
+#include "platform/linux/files/FileIdentity.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "platform/linux/FileReplacement.h"
+#include "platform/linux/files/FileReplacement.h"
 
 #include "ChildProcess.h"
 #include "TemporaryFolder.h"
 
-#include "platform/linux/FileIdentity.h"
+#include "platform/linux/files/FileIdentity.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/FolderLock.h"
+#include "platform/linux/files/FolderLock.h"
 
 #include "ChildProcess.h"
 #include "TemporaryFolder.h"

@@ -1,4 +1,4 @@
-#include "platform/linux/JsonObject.h"
+#include "platform/linux/defaults/JsonObject.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/KeyCodes.h"
+#include "platform/linux/keyboard/KeyCodes.h"
 
 #include <gtest/gtest.h>
 

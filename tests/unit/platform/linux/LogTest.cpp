@@ -1,7 +1,7 @@
 #include "StandardError.h"
 
-#include "platform/linux/Log.h"
-#include "platform/linux/LogEntry.h"
+#include "platform/linux/log/Log.h"
+#include "platform/linux/log/LogEntry.h"
 
 #include <gtest/gtest.h>
 

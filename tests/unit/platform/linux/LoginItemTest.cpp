@@ -1,7 +1,7 @@
 #include "TemporaryFolder.h"
 
 #include "platform/LoginItem.h"
-#include "platform/linux/LaunchPhase.h"
+#include "platform/linux/application/LaunchPhase.h"
 
 #include <gtest/gtest.h>
 

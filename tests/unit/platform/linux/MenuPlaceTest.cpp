@@ -1,4 +1,4 @@
-#include "platform/linux/MenuPlace.h"
+#include "platform/linux/menu/MenuPlace.h"
 
 #include <gmock/gmock.h>
 

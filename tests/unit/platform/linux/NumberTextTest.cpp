@@ -1,4 +1,4 @@
-#include "platform/linux/NumberText.h"
+#include "platform/linux/defaults/NumberText.h"
 
 #include "CommaLocale.h"
 

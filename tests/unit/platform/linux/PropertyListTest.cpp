@@ -1,4 +1,4 @@
-#include "platform/linux/PropertyList.h"
+#include "platform/linux/defaults/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/RunLoopTimers.h"
+#include "platform/linux/timers/RunLoopTimers.h"
 
 #include <gtest/gtest.h>
 

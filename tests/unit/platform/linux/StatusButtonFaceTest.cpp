@@ -1,6 +1,6 @@
-#include "platform/linux/StatusButtonFace.h"
+#include "platform/linux/statusitem/StatusButtonFace.h"
 
-#include "platform/linux/ImagePeer.h"
+#include "platform/linux/views/ImagePeer.h"
 
 #include <QApplication>
 #include <QPainter>

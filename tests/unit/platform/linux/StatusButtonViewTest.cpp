@@ -1,4 +1,4 @@
-#include "platform/linux/StatusButtonView.h"
+#include "platform/linux/statusitem/StatusButtonView.h"
 
 #include <QApplication>
 #include <QKeyEvent>

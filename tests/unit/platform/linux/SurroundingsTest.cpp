@@ -1,4 +1,4 @@
-#include "platform/linux/Surroundings.h"
+#include "platform/linux/statusitem/Surroundings.h"
 
 #include <gmock/gmock.h>
 

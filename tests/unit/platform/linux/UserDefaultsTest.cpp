@@ -4,7 +4,7 @@
 #include "StandardError.h"
 #include "TemporaryFolder.h"
 
-#include "platform/linux/LogEntry.h"
+#include "platform/linux/log/LogEntry.h"
 
 #include <gtest/gtest.h>
 

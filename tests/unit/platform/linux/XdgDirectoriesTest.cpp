@@ -1,4 +1,4 @@
-#include "platform/linux/XdgDirectories.h"
+#include "platform/linux/files/XdgDirectories.h"
 
 #include <gtest/gtest.h>
 
