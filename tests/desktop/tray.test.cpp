@@ -224,6 +224,7 @@ TEST_F(ItemTest, ShowsTheTimeInATrayThatGivesMoreRoomThanItHas) {
     fake.waitForRequest();
     fake.take();
     user.item().waitUntilIn(ItemPlace::tray);
+    session.settle(); // the tray shows the window before the program knows of it
     startCounting();
 }
 

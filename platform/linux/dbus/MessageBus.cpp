@@ -39,6 +39,11 @@ int handleOwnerChange(sd_bus_message* change, void* handler, sd_bus_error*) {
     return 0;
 }
 
+int handleSignal(sd_bus_message*, void* handler, sd_bus_error*) {
+    (*static_cast<MessageBus::SignalHandler*>(handler))();
+    return 0;
+}
+
 // Without this, a bus that refuses a subscription would be left.
 int ignoreAnswer(sd_bus_message*, void*, sd_bus_error*) {
     return 0;
@@ -125,6 +130,38 @@ BusSubscription MessageBus::watchOwner(const std::string& name, OwnerHandler han
     }
     updateNotifiers();
     return owning(slot, std::move(kept));
+}
+
+BusSubscription MessageBus::watchSignal(const char* sender, const char* path, const char* interface,
+                                        const char* member, SignalHandler handler) {
+    auto kept = std::make_unique<SignalHandler>(std::move(handler));
+    sd_bus_slot* slot = nullptr;
+    if (sd_bus_match_signal_async(bus_.get(), &slot, sender, path, interface, member, handleSignal,
+                                  ignoreAnswer, kept.get()) < 0) {
+        return nullptr;
+    }
+    updateNotifiers();
+    return owning(slot, std::move(kept));
+}
+
+// The library itself tells of the loss, as a signal that never was on the bus.
+BusSubscription MessageBus::watchLoss(SignalHandler handler) {
+    return watchSignal("org.freedesktop.DBus.Local", "/org/freedesktop/DBus/Local",
+                       "org.freedesktop.DBus.Local", "Disconnected", std::move(handler));
+}
+
+BusSubscription MessageBus::exportObject(const char* path, const char* interface,
+                                         const sd_bus_vtable* table, void* object) {
+    sd_bus_slot* slot = nullptr;
+    sd_bus_add_object_vtable(bus_.get(), &slot, path, interface, table, object);
+    return BusSubscription(slot);
+}
+
+BusMessage MessageBus::createSignal(const char* path, const char* interface,
+                                    const char* member) const {
+    sd_bus_message* signal = nullptr;
+    sd_bus_message_new_signal(bus_.get(), &signal, path, interface, member);
+    return BusMessage(signal);
 }
 
 void MessageBus::process() {

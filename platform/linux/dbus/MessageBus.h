@@ -45,12 +45,30 @@ class MessageBus {
     /// however late it comes; the loss of the bus is an error. Not when the call cannot be sent.
     void call(BusMessage call, ReplyHandler handler);
 
-    /// Sends a call whose reply is of no interest.
+    /// Sends a call whose reply is of no interest, or a signal.
     void send(BusMessage call);
 
     using OwnerHandler = std::function<void(bool isOwned)>;
     /// Has `handler` called whenever another connection, or none, becomes the owner of the name.
     [[nodiscard]] BusSubscription watchOwner(const std::string& name, OwnerHandler handler);
+
+    using SignalHandler = std::function<void()>;
+    /// Has `handler` called whenever the sender emits the signal.
+    [[nodiscard]] BusSubscription watchSignal(const char* sender, const char* path,
+                                              const char* interface, const char* member,
+                                              SignalHandler handler);
+
+    /// Has `handler` called when the bus is gone.
+    [[nodiscard]] BusSubscription watchLoss(SignalHandler handler);
+
+    /// Offers an object to the other programs on the bus: what they may call and read is in the
+    /// table, which ends as sd-bus demands, and whose functions get `object`.
+    [[nodiscard]] BusSubscription exportObject(const char* path, const char* interface,
+                                               const sd_bus_vtable* table, void* object);
+
+    /// A signal of an object of ours, without arguments yet; `send` emits it.
+    [[nodiscard]] BusMessage createSignal(const char* path, const char* interface,
+                                          const char* member) const;
 
     /// Handles everything that has arrived.
     void process();

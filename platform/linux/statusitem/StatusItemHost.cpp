@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <algorithm>
 
 namespace platform::linux_host {
 
@@ -12,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto timeToDock = 1s;
+constexpr auto timeToAnswer = 1s;
 
 // Qt's coordinates: each screen begins where it begins in pixels, and is as large as its scale
 // makes it.
@@ -38,10 +39,11 @@ const QScreen* screenOf(const PixelRect& pixels) {
 
 StatusItemHost::StatusItemHost()
     : connection_(Connection::shared()), tray_(connection_, [this] { trayDidChange(); }) {
-    updates_.setSingleShot(true);
-    patience_.setSingleShot(true);
-    patience_.setInterval(timeToDock);
-    for (QTimer* const timer : {&updates_, &patience_}) {
+    for (QTimer* const patience : {&trayPatience_, &panelPatience_}) {
+        patience->setInterval(timeToAnswer);
+    }
+    for (QTimer* const timer : {&updates_, &trayPatience_, &panelPatience_}) {
+        timer->setSingleShot(true);
         QObject::connect(timer, &QTimer::timeout, timer, [this] { update(); });
     }
     updateLater();
@@ -73,35 +75,90 @@ void StatusItemHost::updateLater() {
 
 // From whatever has changed to what follows from it.
 void StatusItemHost::update() {
-    updateTrayItem();
-    updateStrip();
+    Need need = Need::certain;
+    if (prefersNotifier_) {
+        need = updateTrayItem(updateNotifier(need));
+    } else {
+        need = updateNotifier(updateTrayItem(need));
+    }
+    updateStrip(need);
     showContent();
 }
 
-void StatusItemHost::updateTrayItem() {
-    if (item_ && item_->tray() != tray_.window()) {
+StatusItemHost::Need StatusItemHost::updateTrayItem(Need need) {
+    if (item_ && (need == Need::none || item_->tray() != tray_.window())) {
         item_.reset();
-        patience_.stop();
     }
-    if (!item_ && tray_.window() != XCB_WINDOW_NONE) {
+    if (!item_ && need == Need::certain && tray_.window() != XCB_WINDOW_NONE) {
         item_ = std::make_unique<TrayItem>(
-            connection_, tray_, content_, [this] { openMenu(); }, [this] { updateLater(); });
-        patience_.start();
+            connection_, tray_, content_, [this] { openMenu(item_->frame()); },
+            [this] { updateLater(); });
+        trayPatience_.start();
     }
+    return needAfterTrayItem(need);
 }
 
-// While a tray may still take the item there is no strip yet, but one that is there stays.
-void StatusItemHost::updateStrip() {
-    const bool isDocked = item_ && item_->state() == TrayDock::State::docked;
-    if (isDocked) {
-        patience_.stop();
-        strip_.reset();
-        return;
+StatusItemHost::Need StatusItemHost::needAfterTrayItem(Need need) const {
+    if (item_ && item_->state() == TrayDock::State::docked) {
+        return Need::none;
     }
     const bool mayStillDock =
-        item_ && item_->state() == TrayDock::State::waiting && patience_.isActive();
-    if (!strip_ && !mayStillDock) {
-        strip_ = std::make_unique<Strip>(content_, [this] { openMenu(); });
+        item_ && item_->state() == TrayDock::State::waiting && trayPatience_.isActive();
+    return mayStillDock ? std::min(need, Need::perhaps) : need;
+}
+
+StatusItemHost::Need StatusItemHost::updateNotifier(Need need) {
+    if (!panel_ && need == Need::certain) {
+        panel_ = std::make_unique<NotifierPanel>([this] { updateLater(); });
+        panelPatience_.start();
+    }
+    const bool isPresent = panel_ && panel_->state() == NotifierPanel::State::present;
+    if (need == Need::none || !isPresent || notifierGeneration_ != panel_->generation()) {
+        notifier_.reset();
+    }
+    if (!notifier_ && need == Need::certain && isPresent) {
+        listNotifier();
+    }
+    return needAfterNotifier(need);
+}
+
+void StatusItemHost::listNotifier() {
+    notifierGeneration_ = panel_->generation();
+    notifier_ = std::make_unique<NotifierItem>(
+        content_,
+        [this](QPoint place) {
+            openMenu({place.x(), place.y(), 1, 1});
+        },
+        [this] { updateLater(); });
+    panelPatience_.start();
+}
+
+StatusItemHost::Need StatusItemHost::needAfterNotifier(Need need) const {
+    if (notifier_ && notifier_->state() == NotifierItem::State::listed) {
+        return Need::none;
+    }
+    const bool mayStillBeListed =
+        panelPatience_.isActive() &&
+        (notifier_ ? notifier_->state() == NotifierItem::State::waiting
+                   : panel_ && panel_->state() == NotifierPanel::State::unknown);
+    return mayStillBeListed ? std::min(need, Need::perhaps) : need;
+}
+
+// While the item may still be taken elsewhere there is no strip yet, but one that is there stays.
+void StatusItemHost::updateStrip(Need need) {
+    switch (need) {
+    case Need::none:
+        trayPatience_.stop();
+        panelPatience_.stop();
+        strip_.reset();
+        return;
+    case Need::perhaps:
+        return;
+    case Need::certain:
+        if (!strip_) {
+            strip_ = std::make_unique<Strip>(content_, [this] { openMenu(strip_->frame()); });
+        }
+        return;
     }
 }
 
@@ -109,27 +166,22 @@ void StatusItemHost::showContent() {
     if (item_) {
         item_->setContent(content_);
     }
+    if (notifier_) {
+        notifier_->setContent(content_);
+    }
     if (strip_) {
         strip_->setContent(content_);
     }
 }
 
-PixelRect StatusItemHost::frame() const {
-    return strip_ ? strip_->frame() : item_->frame();
-}
-
-void StatusItemHost::openMenu() {
-    if (!menu_ || (!strip_ && !item_)) {
-        return;
-    }
-    const PixelRect pixels = frame();
-    const QScreen* const screen = screenOf(pixels);
-    if (screen == nullptr) {
+void StatusItemHost::openMenu(const PixelRect& item) {
+    const QScreen* const screen = screenOf(item);
+    if (!menu_ || screen == nullptr) {
         return;
     }
     QMenu& menu = *menu_->peer().popup;
     const auto placeFor = [&](QSize size) {
-        return menuPlace(inPoints(pixels, *screen), size, screen->geometry());
+        return menuPlace(inPoints(item, *screen), size, screen->geometry());
     };
     menu.popup(placeFor(menu.sizeHint()));
     menu.move(placeFor(menu.size())); // what is in it has been measured only now
