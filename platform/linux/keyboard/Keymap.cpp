@@ -1,10 +1,12 @@
 #include "platform/linux/keyboard/Keymap.h"
 
+#include "platform/linux/keyboard/KeyNames.h"
 #include "platform/linux/x11/Connection.h"
 #include "platform/linux/x11/Reply.h"
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <span>
 #include <string>
 #include <xkbcommon/xkbcommon-keysyms.h>
@@ -23,29 +25,22 @@ constexpr std::uint32_t controlKey = 0x1000;
 constexpr std::uint16_t evdevOffset = 8;
 constexpr std::size_t modifierCount = 8;
 
-xkb_keymap* readNames(xcb_connection_t* connection) {
-    xkb_context* const context = xkb_context_new(XKB_CONTEXT_NO_DEFAULT_INCLUDES);
-    if (context == nullptr) {
-        return nullptr;
-    }
-    const std::int32_t keyboard = xkb_x11_get_core_keyboard_device_id(connection);
-    xkb_keymap* const keymap = keyboard < 0
-                                   ? nullptr
-                                   : xkb_x11_keymap_new_from_device(context, connection, keyboard,
-                                                                    XKB_KEYMAP_COMPILE_NO_FLAGS);
-    xkb_context_unref(context);
-    return keymap;
+// A name fills four characters, or is filled up with zeros.
+std::string nameFrom(const char* characters) {
+    return {characters, ::strnlen(characters, quellbar_key_name_length)};
 }
 
 // The core protocol's view of the keyboard: which keys are modifiers, and what each key means.
 class CoreMapping {
   public:
-    explicit CoreMapping(Connection& connection) : minimum_(connection.setup().min_keycode) {
-        const auto count = static_cast<std::uint8_t>(connection.setup().max_keycode - minimum_ + 1);
-        const auto modifiers = xcb_get_modifier_mapping(connection.xcb());
-        const auto symbols = xcb_get_keyboard_mapping(connection.xcb(), minimum_, count);
-        modifiers_.reset(xcb_get_modifier_mapping_reply(connection.xcb(), modifiers, nullptr));
-        symbols_.reset(xcb_get_keyboard_mapping_reply(connection.xcb(), symbols, nullptr));
+    explicit CoreMapping(Connection& connection)
+        : connection_(connection.xcb()), minimum_(connection.setup().min_keycode),
+          modifiersRequest_(xcb_get_modifier_mapping(connection_)),
+          symbolsRequest_(xcb_get_keyboard_mapping(connection_, minimum_, countOf(connection))) {}
+
+    void read() {
+        modifiers_.reset(xcb_get_modifier_mapping_reply(connection_, modifiersRequest_, nullptr));
+        symbols_.reset(xcb_get_keyboard_mapping_reply(connection_, symbolsRequest_, nullptr));
     }
 
     // The bit of the first modifier of which a key means one of `symbols`, tried in their order.
@@ -61,6 +56,11 @@ class CoreMapping {
     }
 
   private:
+    static std::uint8_t countOf(Connection& connection) {
+        return static_cast<std::uint8_t>(connection.setup().max_keycode -
+                                         connection.setup().min_keycode + 1);
+    }
+
     [[nodiscard]] bool hasKeyWith(std::size_t modifier, xcb_keysym_t symbol) const {
         const auto keys = keycodesOf(modifier);
         return std::any_of(keys.begin(), keys.end(), [this, symbol](xcb_keycode_t keycode) {
@@ -86,13 +86,15 @@ class CoreMapping {
                 each};
     }
 
+    xcb_connection_t* connection_;
     xcb_keycode_t minimum_;
+    xcb_get_modifier_mapping_cookie_t modifiersRequest_;
+    xcb_get_keyboard_mapping_cookie_t symbolsRequest_;
     Reply<xcb_get_modifier_mapping_reply_t> modifiers_;
     Reply<xcb_get_keyboard_mapping_reply_t> symbols_;
 };
 
-ModifierBits readModifiers(Connection& connection) {
-    const CoreMapping mapping(connection);
+ModifierBits meaningsOf(const CoreMapping& mapping) {
     return {
         .command = mapping.bitOf({XKB_KEY_Super_L, XKB_KEY_Super_R}),
         .option = mapping.bitOf({XKB_KEY_Alt_L, XKB_KEY_Alt_R}),
@@ -111,19 +113,23 @@ std::optional<std::uint8_t> setUpKeyboardExtension(Connection& connection) {
     return isThere != 0 ? std::optional(firstEvent) : std::nullopt;
 }
 
+// All is asked for before the first answer is waited for.
 Keymap::Keymap(Connection& connection)
-    : names_(readNames(connection.xcb())), modifiers_(readModifiers(connection)),
-      minimumKeycode_(connection.setup().min_keycode),
-      maximumKeycode_(connection.setup().max_keycode) {}
+    : minimumKeycode_(connection.setup().min_keycode),
+      maximumKeycode_(connection.setup().max_keycode) {
+    const unsigned namesRequest = quellbar_request_key_names(connection.xcb());
+    CoreMapping mapping(connection);
+    const auto addName = [](void* names, const char* name, std::uint8_t keycode) {
+        static_cast<Names*>(names)->emplace_back(nameFrom(name), keycode);
+    };
+    quellbar_visit_key_names(connection.xcb(), namesRequest, addName, &names_);
+    mapping.read();
+    modifiers_ = meaningsOf(mapping);
+}
 
 std::optional<xcb_keycode_t> Keymap::keycodeOf(const LinuxKey& key) const {
-    xkb_keycode_t keycode = XKB_KEYCODE_INVALID;
-    if (names_) {
-        keycode = xkb_keymap_key_by_name(names_.get(), std::string(key.xkbName).c_str());
-    }
-    if (keycode == XKB_KEYCODE_INVALID) {
-        keycode = key.evdev + evdevOffset;
-    }
+    const auto named = std::ranges::find(names_, key.xkbName, &Names::value_type::first);
+    const int keycode = named != names_.end() ? named->second : key.evdev + evdevOffset;
     if (keycode < minimumKeycode_ || keycode > maximumKeycode_) {
         return std::nullopt;
     }

@@ -2,11 +2,11 @@
 
 #include "platform/linux/keyboard/KeyCodes.h"
 
-#include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 #include <xcb/xproto.h>
-#include <xkbcommon/xkbcommon.h>
 
 namespace platform::linux_host {
 
@@ -28,7 +28,7 @@ struct ModifierBits {
 /// The keyboard as it is mapped at one moment.
 class Keymap {
   public:
-    /// Reads it from the server, in a few round trips.
+    /// Reads it from the server, in one round trip.
     explicit Keymap(Connection& connection);
 
     /// The X keycode of a key, found by its name in the map. A key that the map does not name has
@@ -43,11 +43,9 @@ class Keymap {
     [[nodiscard]] std::vector<std::uint16_t> lockStates() const;
 
   private:
-    struct Unref {
-        void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
-    };
+    using Names = std::vector<std::pair<std::string, xcb_keycode_t>>;
 
-    std::unique_ptr<xkb_keymap, Unref> names_; ///< null where it cannot be had
+    Names names_; ///< empty where the server does not tell them
     ModifierBits modifiers_;
     std::uint8_t minimumKeycode_;
     std::uint8_t maximumKeycode_;
