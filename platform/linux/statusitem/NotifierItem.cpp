@@ -21,9 +21,9 @@ bool showsTimeInPicture() {
 
 } // namespace
 
-NotifierItem::NotifierItem(const StatusButtonContent& content, std::function<void(QPoint)> onPress,
+NotifierItem::NotifierItem(StatusButtonContent content, std::function<void(QPoint)> onPress,
                            std::function<void()> onChange)
-    : content_(content), onPress_(std::move(onPress)), onChange_(std::move(onChange)),
+    : content_(std::move(content)), onPress_(std::move(onPress)), onChange_(std::move(onChange)),
       bus_(MessageBus::connect(BusType::session)) {
     if (!bus_) {
         state_ = State::refused;

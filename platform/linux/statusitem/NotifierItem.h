@@ -19,7 +19,7 @@ class NotifierItem : public QObject {
     /// Asks the watcher to list the item. `onPress` is called with the place that the panel names,
     /// in pixels from the top left of the X screen, when a menu should open; `onChange` when
     /// `state` may have changed. Both come from the event loop.
-    NotifierItem(const StatusButtonContent& content, std::function<void(QPoint)> onPress,
+    NotifierItem(StatusButtonContent content, std::function<void(QPoint)> onPress,
                  std::function<void()> onChange);
 
     void setContent(const StatusButtonContent& content);

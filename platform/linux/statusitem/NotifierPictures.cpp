@@ -15,7 +15,8 @@ constexpr double menuBarHeight = 22; // points: what a face is made for
 // Qt's pixels are numbers, and bytes in the order of the machine.
 QImage inNetworkOrder(const QImage& picture) {
     QImage result = picture.convertToFormat(QImage::Format_ARGB32);
-    qToBigEndian<quint32>(result.constBits(), result.width() * result.height(), result.bits());
+    qToBigEndian<quint32>(result.constBits(), result.sizeInBytes() / qsizetype{sizeof(quint32)},
+                          result.bits());
     return result;
 }
 
@@ -33,6 +34,7 @@ QImage pictureOf(const StatusButtonContent& content, const QPalette& surrounding
 std::vector<QImage> notifierPictures(const StatusButtonContent& content,
                                      const QPalette& surroundings) {
     std::vector<QImage> pictures;
+    pictures.reserve(sides.size());
     for (const int side : sides) {
         pictures.push_back(pictureOf(content, surroundings, side));
     }
