@@ -20,17 +20,13 @@ using std::chrono::nanoseconds;
 
 Connection* theConnection = nullptr;
 
-// Far enough off to be never.
-Clock::time_point endOf(int milliseconds) {
-    return milliseconds < 0 ? Clock::time_point::max()
-                            : Clock::now() + std::chrono::milliseconds{milliseconds};
-}
+constexpr auto never = Clock::time_point::max();
 
-int waitUntil(Clock::time_point end, pollfd* descriptors, nfds_t count) {
-    if (end == Clock::time_point::max()) {
+int waitUntil(Clock::time_point end, Clock::time_point now, pollfd* descriptors, nfds_t count) {
+    if (end == never) {
         return ::ppoll(descriptors, count, nullptr, nullptr);
     }
-    const nanoseconds rest = std::max<nanoseconds>(end - Clock::now(), nanoseconds::zero());
+    const nanoseconds rest = std::max<nanoseconds>(end - now, nanoseconds::zero());
     const auto seconds = std::chrono::floor<std::chrono::seconds>(rest);
     const timespec limit{.tv_sec = seconds.count(), .tv_nsec = (rest - seconds).count()};
     return ::ppoll(descriptors, count, &limit, nullptr);
@@ -45,19 +41,24 @@ bool fireDue(RunLoopTimers& timers, Clock::time_point now) {
 }
 
 // GLib's sleep, for at most `timeout` milliseconds (negative: without end), with our timers in it.
-// A GPollFD is laid out as the system's own.
+// A GPollFD is laid out as the system's own. The clock is read once a round: whoever wakes because
+// the time is over knows what time it is.
 gint sleepAndFire(GPollFD* descriptors, guint count, gint timeout) {
     RunLoopTimers& timers = RunLoopTimers::shared();
-    const Clock::time_point end = endOf(timeout);
+    Clock::time_point now = Clock::now();
+    const auto end = timeout < 0 ? never : now + std::chrono::milliseconds{timeout};
     while (true) {
-        const auto deadline = timers.nextDeadline().value_or(Clock::time_point::max());
-        const int ready =
-            waitUntil(std::min(end, deadline), reinterpret_cast<pollfd*>(descriptors), count);
-        const auto now = Clock::now();
+        const auto deadline = timers.nextDeadline().value_or(never);
+        const auto wakeUp = std::min(end, deadline);
+        const int ready = waitUntil(wakeUp, now, reinterpret_cast<pollfd*>(descriptors), count);
+        if (ready == 0) {
+            now = std::max(now, wakeUp);
+        }
         const bool hasToTurn = deadline <= now && fireDue(timers, now);
         if (ready != 0 || hasToTurn || end <= now) {
             return ready;
         }
+        now = Clock::now();
     }
 }
 

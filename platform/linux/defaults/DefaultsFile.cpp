@@ -7,6 +7,8 @@
 #include "platform/linux/files/SystemError.h"
 #include "platform/linux/log/Log.h"
 
+#include <cerrno>
+
 namespace platform::linux_host {
 namespace {
 
@@ -100,10 +102,12 @@ void DefaultsFile::replace(const fs::path& target, const DefaultsValues& changes
 
 void DefaultsFile::refresh() {
     struct stat status {};
-    if (::stat(path_.c_str(), &status) != 0) {
+    if (::stat(path_.c_str(), &status) == 0) {
+        if (identity_ != FileIdentity(status)) {
+            load(status);
+        }
+    } else if (state_ != State::absent || errno != ENOENT) { // else it is as absent as before
         lose(lastError());
-    } else if (identity_ != FileIdentity(status)) {
-        load(status);
     }
 }
 
