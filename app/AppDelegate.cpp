@@ -62,6 +62,10 @@ void AppDelegate::applicationDidFinishLaunching() {
     renewLoginItem();
 }
 
+void AppDelegate::applicationDidReopen() {
+    statusItemController_->showSettings();
+}
+
 void AppDelegate::applicationWillTerminate() {
     HotKeyManager::shared().unregisterHotKey();
     CornerHoverMonitor::shared().stop();

@@ -10,6 +10,8 @@
 class AppDelegate final : public platform::ApplicationDelegate {
   public:
     void applicationDidFinishLaunching() override;
+    /// Shows the settings: whoever starts a program that runs wants to see something of it.
+    void applicationDidReopen() override;
     void applicationWillTerminate() override;
 
   private:

@@ -32,6 +32,7 @@ class Delegate final : public platform::ApplicationDelegate {
         std::cout << "ready" << std::endl;
         answerNextTrigger();
     }
+    void applicationDidReopen() override {}
     void applicationWillTerminate() override {}
 };
 

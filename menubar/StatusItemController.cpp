@@ -255,6 +255,10 @@ void StatusItemController::toggleShortcuts(MenuItem&) {
 }
 
 void StatusItemController::openSettings(MenuItem&) {
+    showSettings();
+}
+
+void StatusItemController::showSettings() {
     bringToFront(SettingsWindowController::shared().window());
 }
 

@@ -16,6 +16,9 @@ class StatusItemController final : public platform::MenuDelegate,
     /// Puts the status item into the status bar, builds the menu and observes Keep Awake.
     [[nodiscard]] static std::shared_ptr<StatusItemController> create();
 
+    /// Brings the settings window to the front.
+    void showSettings();
+
     void menuWillOpen(platform::Menu& menu) override;
     void keepAwakeDidChangeState(bool active, double remaining) override;
 

@@ -4,12 +4,16 @@
 
 namespace platform {
 
-/// What the desktop tells the program about its own life. Both are called once, on the main thread.
+/// What the desktop tells the program about its own life, on the main thread.
 class ApplicationDelegate {
   public:
-    /// The event loop is up; from here on the program may use every service.
+    /// The event loop is up; from here on the program may use every service. Called once.
     virtual void applicationDidFinishLaunching() = 0;
-    /// The process is about to end; the last chance to give back what would outlive it.
+    /// The user has started the program although it runs already; the second process, if there was
+    /// one, is gone. Stands for applicationShouldHandleReopen without visible windows on macOS.
+    virtual void applicationDidReopen() = 0;
+    /// The process is about to end; the last chance to give back what would outlive it. Called
+    /// once.
     virtual void applicationWillTerminate() = 0;
 
   protected:

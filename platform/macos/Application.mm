@@ -10,7 +10,7 @@ bool isTerminating = false;
 
 } // namespace
 
-/// Hands AppKit's two calls on to the seam's delegate.
+/// Hands AppKit's calls on to the seam's delegate.
 @interface QuellbarApplicationDelegate : NSObject <NSApplicationDelegate>
 - (instancetype)initWithDelegate:(platform::ApplicationDelegate*)delegate;
 @end
@@ -29,6 +29,14 @@ bool isTerminating = false;
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
     platform::macos::callOut([self] { delegate_->applicationDidFinishLaunching(); });
+}
+
+// With a window on the screen it is a click on the Dock icon, and AppKit itself does what is usual.
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)hasWindows {
+    if (!hasWindows) {
+        platform::macos::callOut([self] { delegate_->applicationDidReopen(); });
+    }
+    return hasWindows;
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {

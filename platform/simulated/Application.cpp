@@ -62,6 +62,15 @@ void Application::launch() {
     }
 }
 
+void Application::reopen() {
+    if (!hasLaunched_ || hasTerminated_) {
+        misuse("the user starts a program a second time that does not run");
+    }
+    if (delegate_ != nullptr) {
+        delegate_->applicationDidReopen();
+    }
+}
+
 void Application::quit() {
     if (self_ == nullptr) {
         misuse("the user quits a program that has not started");

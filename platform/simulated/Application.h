@@ -28,6 +28,9 @@ class Application {
     /// itself, in place of `platform::Application::run()`.
     void launch();
 
+    /// The user starts the program a second time.
+    void reopen();
+
     /// The user quits the program.
     void quit();
 

@@ -29,6 +29,7 @@ class Delegate final : public platform::ApplicationDelegate {
             platform::Application::shared().terminate();
         });
     }
+    void applicationDidReopen() override { say("reopened"); }
     void applicationWillTerminate() override {
         say("will terminate");
         platform::Application::shared().terminate();

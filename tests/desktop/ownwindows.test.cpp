@@ -61,6 +61,21 @@ TEST_P(TheProgramsWindows, ComeInFrontOfAnotherProgramThatHasTheKeyboard) {
     EXPECT_TRUE(own.isOnTop(settings));
 }
 
+TEST_P(TheProgramsWindows, AreTheSettingsWhenTheProgramIsStartedASecondTime) {
+    const auto other = session.application.open(largeWindow);
+    launch();
+    xcb_window_t settings = XCB_NONE;
+    for (int i = 0; i < 2; ++i) {
+        bringForward(other);
+        Process second(Quellbar::command(session.desktop));
+        EXPECT_EQ(second.wait(), (Ended{.status = 0}));
+        const auto shown = own.waitForSettings();
+        EXPECT_TRUE(own.isOnTop(shown));
+        EXPECT_TRUE(settings == XCB_NONE || shown == settings);
+        settings = shown;
+    }
+}
+
 TEST_P(TheProgramsWindows, ComeBackWhereTheyWereClosed) {
     launch();
     const auto settings = own.openSettings();

@@ -33,8 +33,14 @@ int terminationSignals = -1;
 bool isTerminating = false;
 bool loopIsRunning = false;
 
+void reopen() {
+    if (theDelegate != nullptr && !isTerminating) {
+        theDelegate->applicationDidReopen();
+    }
+}
+
 void requireToBeAlone(Connection& connection) {
-    if (!linux_host::claimDisplay(connection)) {
+    if (!linux_host::claimDisplay(connection, reopen)) {
         std::fputs("quellbar: already running on this display\n", stderr);
         std::exit(EXIT_SUCCESS);
     }

@@ -5,10 +5,13 @@
 #include "platform/linux/x11/Reply.h"
 
 #include <string>
+#include <utility>
 
 namespace platform::linux_host {
 
 namespace {
+
+constexpr std::uint8_t sentByClient = 0x80; // the bit of an event's type
 
 xcb_atom_t selectionOf(const Connection& connection) {
     const std::string name = "_QUELLBAR_S" + std::to_string(connection.screenNumber());
@@ -19,10 +22,10 @@ xcb_atom_t selectionOf(const Connection& connection) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-bool isOwned(const Connection& connection, xcb_atom_t selection) {
+xcb_window_t ownerOf(const Connection& connection, xcb_atom_t selection) {
     const Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         connection.xcb(), xcb_get_selection_owner(connection.xcb(), selection), nullptr));
-    return reply && reply->owner != XCB_WINDOW_NONE;
+    return reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
 }
 
 // A selection is owned through a window; this one is never shown.
@@ -60,23 +63,48 @@ void answerQuestions(Connection& connection) {
     });
 }
 
+// The message that says so has the name of the selection. The server has to have it before this
+// process ends: it forgets what it has not read yet of a client that it cannot write to any more.
+void tellOfSecondStart(Connection& connection, xcb_window_t owner, xcb_atom_t selection) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = owner;
+    message.type = selection;
+    xcb_send_event(connection.xcb(), 0, owner, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&message));
+    connection.synchronize();
+}
+
+void listenForSecondStart(Connection& connection, xcb_atom_t selection,
+                          std::function<void()> onSecondStart) {
+    connection.subscribe([selection, handler = std::move(onSecondStart)](const auto& event) {
+        if ((event.response_type & ~sentByClient) == XCB_CLIENT_MESSAGE &&
+            reinterpret_cast<const xcb_client_message_event_t&>(event).type == selection) {
+            dispatchAsyncOnMainQueue(handler);
+        }
+    });
+}
+
 } // namespace
 
 // Two programs that start at the same moment would both find the selection free: the server is held
 // between looking and taking.
-bool claimDisplay(Connection& connection) {
+bool claimDisplay(Connection& connection, std::function<void()> onSecondStart) {
     const xcb_atom_t selection = selectionOf(connection);
     xcb_grab_server(connection.xcb());
-    const bool isFree = !isOwned(connection, selection);
+    const xcb_window_t owner = ownerOf(connection, selection);
+    const bool isFree = owner == XCB_WINDOW_NONE;
     if (isFree) {
         xcb_set_selection_owner(connection.xcb(), createOwner(connection), selection,
                                 XCB_CURRENT_TIME);
+        answerQuestions(connection);
+        listenForSecondStart(connection, selection, std::move(onSecondStart));
+    } else {
+        tellOfSecondStart(connection, owner, selection);
     }
     xcb_ungrab_server(connection.xcb());
     connection.flush();
-    if (isFree) {
-        answerQuestions(connection);
-    }
     return isFree;
 }
 

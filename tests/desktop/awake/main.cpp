@@ -57,6 +57,7 @@ class Delegate final : public platform::ApplicationDelegate {
         std::cout << "ready" << std::endl;
         std::thread(readCommands).detach();
     }
+    void applicationDidReopen() override {}
     void applicationWillTerminate() override { KeepAwakeManager::shared().stop(); }
 };
 

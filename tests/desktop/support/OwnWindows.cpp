@@ -34,7 +34,7 @@ void OwnWindows::openMenu() {
 xcb_window_t OwnWindows::openSettings() {
     openMenu();
     keyboard_.press(settingsKey);
-    return waitForActive("Quellbar Settings");
+    return waitForSettings();
 }
 
 xcb_window_t OwnWindows::openAbout() {

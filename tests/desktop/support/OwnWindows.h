@@ -38,6 +38,9 @@ class OwnWindows {
     xcb_window_t openSettings();
     xcb_window_t openAbout();
 
+    /// Waits until the settings window is the active one, whoever opened it.
+    xcb_window_t waitForSettings() { return waitForActive("Quellbar Settings"); }
+
     /// Clicks into a window, and returns when the window manager has let the click through to it: a
     /// key that is pressed then comes after the click.
     void click(xcb_window_t window, ContentPoint place);

@@ -202,6 +202,14 @@ TEST_F(Launch, ChangedSettingsAreNotAppliedAfterwards) {
     EXPECT_EQ(desktop().hotKeys.registrations().size(), 1U);
 }
 
+TEST_F(Launch, ASecondTimeByTheUserShowsTheSettings) {
+    launch();
+    EXPECT_THAT(desktop().windows.all(), IsEmpty());
+    desktop().application.reopen();
+    EXPECT_TRUE(desktop().windows.titled("Quellbar Settings").isKey());
+    EXPECT_TRUE(desktop().application.isActive());
+}
+
 TEST(LaunchDeathTest, WithoutAnApplicationObjectIsFatal) {
     EXPECT_DEATH(AppDelegate().applicationDidFinishLaunching(),
                  "Fatal error: the application object does not exist");

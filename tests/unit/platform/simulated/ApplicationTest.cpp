@@ -20,6 +20,7 @@ class Delegate final : public platform::ApplicationDelegate {
         heard.emplace_back("launched");
         onLaunch();
     }
+    void applicationDidReopen() override { heard.emplace_back("reopened"); }
     void applicationWillTerminate() override {
         heard.emplace_back("will terminate");
         onTermination();
@@ -69,6 +70,7 @@ TEST(SimulatedApplicationObjectDeathTest, CannotBeUsedBeforeItIsMade) {
     EXPECT_DEATH((void)desktop().application.self(), "has no application object yet");
     EXPECT_DEATH(desktop().application.launch(), "launches without an application object");
     EXPECT_DEATH(desktop().application.quit(), "quits a program that has not started");
+    EXPECT_DEATH(desktop().application.reopen(), "a second time that does not run");
 }
 
 TEST_F(SimulatedApplication, RunsFromLaunchThroughTheQueueToTermination) {
@@ -88,6 +90,13 @@ TEST_F(SimulatedApplication, LaunchesWithoutRunningForATestThatTurnsTheQueue) {
     desktop().application.launch();
     EXPECT_TRUE(desktop().application.hasLaunched());
     EXPECT_THAT(delegate.heard, ElementsAre("launched"));
+}
+
+TEST_F(SimulatedApplication, StartedASecondTimeTellsTheDelegateEachTime) {
+    desktop().application.launch();
+    desktop().application.reopen();
+    desktop().application.reopen();
+    EXPECT_THAT(delegate.heard, ElementsAre("launched", "reopened", "reopened"));
 }
 
 TEST_F(SimulatedApplication, EndedTwiceTellsTheDelegateOnce) {

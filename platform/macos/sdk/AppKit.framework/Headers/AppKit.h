@@ -7,6 +7,7 @@
 #include <sys/types.h>
 
 @class CALayer;
+@class NSApplication;
 @class NSEvent;
 @class NSImage;
 @class NSMenu;
@@ -80,6 +81,7 @@ enum NSApplicationActivationPolicy : NSInteger {
 @protocol NSApplicationDelegate <NSObject>
 @optional
 - (void)applicationDidFinishLaunching:(NSNotification*)notification;
+- (BOOL)applicationShouldHandleReopen:(NSApplication*)sender hasVisibleWindows:(BOOL)flag;
 - (void)applicationWillTerminate:(NSNotification*)notification;
 @end
 
