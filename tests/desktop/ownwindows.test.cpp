@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 namespace {
 
 using namespace desktop;
@@ -74,6 +77,20 @@ TEST_P(TheProgramsWindows, AreTheSettingsWhenTheProgramIsStartedASecondTime) {
         EXPECT_TRUE(settings == XCB_NONE || shown == settings);
         settings = shown;
     }
+}
+
+TEST_P(TheProgramsWindows, HaveTheIconThatIsInstalled) {
+    const auto theme = session.desktop.home() / ".local/share/icons/hicolor";
+    std::filesystem::create_directories(theme / "64x64/apps");
+    std::ofstream(theme / "index.theme") << "[Icon Theme]\nName=Hicolor\nDirectories=64x64/apps\n"
+                                            "[64x64/apps]\nSize=64\nType=Threshold\n";
+    std::filesystem::copy(QUELLBAR_TEST_ICON, theme / "64x64/apps/io.github.quellbar.Quellbar.png");
+    launch();
+    const auto icon =
+        XDisplay(session.desktop.display()).property(own.openSettings(), "_NET_WM_ICON");
+    ASSERT_GE(icon.size(), 2U);
+    EXPECT_EQ(icon[0], 64U); // pixels across, and down
+    EXPECT_EQ(icon[1], 64U);
 }
 
 TEST_P(TheProgramsWindows, ComeBackWhereTheyWereClosed) {

@@ -9,7 +9,7 @@ import pathlib
 import re
 import sys
 
-BEHAVIOURS = 96
+BEHAVIOURS = 97
 TEST = re.compile(r"^TEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\s*\)", re.MULTILINE)
 NAME = re.compile(r"`(\w+\.\w+)`")
 

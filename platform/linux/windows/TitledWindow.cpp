@@ -1,5 +1,6 @@
 #include "platform/linux/windows/TitledWindow.h"
 
+#include "platform/linux/application/ApplicationId.h"
 #include "platform/linux/application/OwnProcess.h"
 #include "platform/linux/views/Appearance.h"
 #include "platform/linux/windowmanager/WindowMessages.h"
@@ -8,6 +9,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QIcon>
 #include <QScreen>
 #include <algorithm>
 #include <vector>
@@ -37,6 +39,7 @@ void tellActivationPolicy(const TitledWindow& window) {
 
 TitledWindow::TitledWindow(QSize size, const QString& title) : QWidget(nullptr, titledAndClosable) {
     setWindowTitle(title);
+    setWindowIcon(QIcon::fromTheme(QString::fromUtf8(applicationId))); // where it is installed
     setFixedSize(size);
     setFont(qFont(Font::system(0)));
     allWindows.push_back(this);
