@@ -80,11 +80,11 @@ double systemCallsPerPoll(const desktop::VirtualDesktop& desktop) {
     return static_cast<double>(first - last) / measured;
 }
 
-// The longer run makes more polls than the shorter one, and otherwise the same.
+// The longer run makes more polls than the shorter one, and otherwise nearly the same.
 double instructionsPerPoll(const desktop::VirtualDesktop& desktop) {
     const Counted shorter = count(desktop, 10s);
-    const Counted longer = count(desktop, 20s);
-    if (longer.polls - shorter.polls < 20) {
+    const Counted longer = count(desktop, 50s);
+    if (longer.polls - shorter.polls < 200) {
         throw std::runtime_error("too few polls under callgrind");
     }
     return (longer.instructions - shorter.instructions) / (longer.polls - shorter.polls);

@@ -1,13 +1,13 @@
 // What the program costs while nobody uses it, its corners polled as ever: beside a bare program
-// that polls the pointer as often, the same in Qt, and the three tools that people use for the
-// three jobs. All of a table run at the same time on the same desktop. Prints Markdown tables.
+// that polls the pointer as often, and the same in Qt; and with the pointer moving, beside the
+// three tools that people use for the three jobs. Prints Markdown tables.
 //
-//   bench_idle [<seconds>]   of measuring, for each table; 30 unless told otherwise
+//   bench_idle [<seconds>]   of each measurement; 10 unless told otherwise
 
 #include "PollCost.h"
+#include "Samples.h"
 #include "tests/desktop/support/Conversation.h"
 #include "tests/desktop/support/Pointer.h"
-#include "tests/desktop/support/ProcessFigures.h"
 #include "tests/desktop/support/Quellbar.h"
 
 #include <cstdio>
@@ -17,81 +17,74 @@
 #include <list>
 #include <string>
 #include <thread>
+#include <utility>
+#include <vector>
 
 namespace {
 
+using bench::Contestant;
+using bench::Record;
+using bench::Sample;
 using desktop::VirtualDesktop;
 using std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-struct Contestant {
-    std::string name;
-    std::vector<pid_t> processes;
-};
-
-struct Sample {
-    double milliseconds = 0; ///< of processor time
-    double switches = 0;     ///< voluntary ones
-};
-
-Sample sampleOf(const Contestant& contestant) {
-    Sample sample;
-    for (const pid_t process : contestant.processes) {
-        const std::chrono::duration<double, std::milli> time = desktop::processorTime(process);
-        sample.milliseconds += time.count();
-        sample.switches += static_cast<double>(desktop::voluntarySwitches(process));
-    }
-    return sample;
-}
-
-double mebibytesOf(const Contestant& contestant) {
-    double kibibytes = 0;
-    for (const pid_t process : contestant.processes) {
-        kibibytes += static_cast<double>(desktop::proportionalSetSize(process));
-    }
-    return kibibytes / 1024;
-}
-
-/// What goes on during a measurement, for so long.
-using Scene = std::function<void(std::chrono::seconds time)>;
-
-void measure(const std::vector<Contestant>& contestants, const Scene& scene,
-             std::chrono::seconds time) {
-    std::this_thread::sleep_for(2s); // for everyone to have finished starting
-    std::vector<Sample> before;
-    for (const Contestant& contestant : contestants) {
-        before.push_back(sampleOf(contestant));
-    }
-    scene(time);
-    for (std::size_t i = 0; i < contestants.size(); ++i) {
-        const Sample after = sampleOf(contestants[i]);
-        std::printf("| %s | %.1f | %.1f | %.1f |\n", contestants[i].name.c_str(),
-                    after.milliseconds - before[i].milliseconds,
-                    (after.switches - before[i].switches) / static_cast<double>(time.count()),
-                    mebibytesOf(contestants[i]));
-    }
-    std::printf("\n");
-    std::fflush(stdout);
-}
+constexpr int rounds = 7; // of contestants that take turns
 
 void printHead(const std::string& scene, std::chrono::seconds time) {
-    std::printf("| %s | CPU ms in %lld s | voluntary switches a second | PSS MiB |\n"
-                "|---|---|---|---|\n",
-                scene.c_str(), static_cast<long long>(time.count()));
+    std::printf(
+        "| %s | CPU ms in %lld s | voluntary switches a second | PSS MiB | Quellbar's CPU ÷ "
+        "this |\n|---|---|---|---|---|\n",
+        scene.c_str(), static_cast<long long>(time.count()));
 }
 
+void printRow(const std::string& name, const Record& ours, const Record& record) {
+    std::printf("| %s | %.1f | %.1f | %.1f | %.2f |\n", name.c_str(),
+                record.median(&Sample::milliseconds), record.median(&Sample::switches),
+                record.median(&Sample::mebibytes), ours.ratioTo(record, &Sample::milliseconds));
+}
+
+/// Starts a contestant on a desktop, measures it there alone, and ends it.
+using Turn = std::function<Sample(const VirtualDesktop& desktop, std::chrono::seconds time)>;
+
+Sample measureAlone(pid_t process, std::chrono::seconds time) {
+    const auto rest = [](std::chrono::seconds length) { std::this_thread::sleep_for(length); };
+    return bench::measure({{.name = {}, .processes = {process}}}, rest, time).front();
+}
+
+Sample measureQuellbar(const VirtualDesktop& desktop, std::chrono::seconds time) {
+    desktop::Quellbar quellbar(desktop);
+    return measureAlone(quellbar.process().pid(), time);
+}
+
+Turn bareProgram(const std::string& file) {
+    return [file](const VirtualDesktop& desktop, std::chrono::seconds time) {
+        desktop::Conversation program(desktop.command({file}));
+        return measureAlone(program.process().pid(), time);
+    };
+}
+
+// One after the other: of programs that run at the same time, the first to wake finds everything
+// cold and warms it for the others, and the X server is awake for whoever asks next.
 void measureAtRest(std::chrono::seconds time) {
     const VirtualDesktop desktop;
     desktop::Pointer(desktop.display()).moveTo(640, 400);
-    desktop::Quellbar quellbar(desktop);
-    desktop::Conversation xcb(desktop.command({QUELLBAR_BENCH_XCB_POLLER}));
-    desktop::Conversation qt(desktop.command({QUELLBAR_BENCH_QT_POLLER}));
+    const std::vector<std::pair<std::string, Turn>> contestants{
+        {"Quellbar", measureQuellbar},
+        {"a bare xcb program", bareProgram(QUELLBAR_BENCH_XCB_POLLER)},
+        {"a bare Qt program", bareProgram(QUELLBAR_BENCH_QT_POLLER)}};
+    std::vector<Record> records(contestants.size());
+    for (int round = 0; round < rounds; ++round) {
+        for (std::size_t i = 0; i < contestants.size(); ++i) {
+            records[i].add(contestants[i].second(desktop, time));
+        }
+    }
     printHead("pointer at rest", time);
-    measure(
-        {{"Quellbar", {quellbar.process().pid()}},
-         {"a bare xcb program", {xcb.process().pid()}},
-         {"a bare Qt program", {qt.process().pid()}}},
-        [](std::chrono::seconds length) { std::this_thread::sleep_for(length); }, time);
+    for (std::size_t i = 0; i < contestants.size(); ++i) {
+        printRow(contestants[i].first, records.front(), records[i]);
+    }
+    std::printf("\n");
+    std::fflush(stdout);
 }
 
 bool isInstalled(const std::string& program) {
@@ -147,10 +140,17 @@ void measureUnderMovement(std::chrono::seconds time) {
     desktop::Pointer pointer(desktop.display());
     const ThreeTools tools(desktop);
     desktop::Quellbar quellbar(desktop);
-    printHead("pointer moving", time);
-    measure(
+    const auto used = bench::measure(
         {{"Quellbar", {quellbar.process().pid()}}, tools.contestant()},
         [&pointer](std::chrono::seconds length) { movePointer(pointer, length); }, time);
+    Record ours;
+    Record theirs;
+    ours.add(used.front());
+    theirs.add(used.back());
+    printHead("pointer moving", time);
+    printRow("Quellbar", ours, ours);
+    printRow(tools.contestant().name, ours, theirs);
+    std::printf("\n");
 }
 
 void countPollCost() {
@@ -164,7 +164,7 @@ void countPollCost() {
 } // namespace
 
 int main(int count, char** arguments) {
-    const std::chrono::seconds time(count > 1 ? std::atoi(arguments[1]) : 30);
+    const std::chrono::seconds time(count > 1 ? std::atoi(arguments[1]) : 10);
     measureAtRest(time);
     measureUnderMovement(time);
     countPollCost();
