@@ -79,6 +79,17 @@ TEST_P(TheProgramsWindows, AreTheSettingsWhenTheProgramIsStartedASecondTime) {
     }
 }
 
+TEST(TheSettingsWindow, HasTheKeyboardWithoutAWindowManager) {
+    Session session{WindowManager::none};
+    session.launch();
+    OwnWindows own{session.desktop.display()};
+    own.openMenu();
+    session.keyboard.press({.modifiers = {key::leftControl}, .key = key::comma});
+    const XDisplay display(session.desktop.display());
+    waitUntil([&] { return display.text(display.focus(), "_NET_WM_NAME") == "Quellbar Settings"; },
+              "the settings to have the keyboard");
+}
+
 TEST_P(TheProgramsWindows, HaveTheIconThatIsInstalled) {
     const auto theme = session.desktop.home() / ".local/share/icons/hicolor";
     std::filesystem::create_directories(theme / "64x64/apps");

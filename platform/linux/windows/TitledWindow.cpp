@@ -3,6 +3,7 @@
 #include "platform/linux/application/ApplicationId.h"
 #include "platform/linux/application/OwnProcess.h"
 #include "platform/linux/views/Appearance.h"
+#include "platform/linux/windowmanager/Trust.h"
 #include "platform/linux/windowmanager/WindowMessages.h"
 #include "platform/linux/x11/Connection.h"
 #include "platform/linux/x11/QtConnection.h"
@@ -33,6 +34,17 @@ xcb_window_t idOf(const QWidget& window) {
 void tellActivationPolicy(const TitledWindow& window) {
     askToSkipTaskbar(Connection::shared(), idOf(window),
                      ownActivationPolicy() != ActivationPolicy::regular);
+}
+
+// In our own words: Qt's come when it has heard that the window is shown. By then the user may have
+// minimized it again, and it would come back. Without a window manager there is nobody to ask, and Qt
+// gives the keyboard to the window itself.
+void activate(TitledWindow& window) {
+    if (reasonForDistrust() == Distrust::noWindowManager) {
+        window.activateWindow();
+    } else {
+        askToActivate(Connection::shared(), idOf(window));
+    }
 }
 
 } // namespace
@@ -77,8 +89,8 @@ void TitledWindow::orderFront() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
     synchronizeQt();
+    activate(*this);
     setMayBeMinimized(Connection::shared(), idOf(*this), false);
     tellActivationPolicy(*this);
     Connection::shared().flush();
@@ -114,7 +126,7 @@ void TitledWindow::applyActivationPolicy() {
 
 void TitledWindow::activateFrontmost() {
     if (frontmost != nullptr && frontmost->isVisible()) {
-        askToActivate(Connection::shared(), idOf(*frontmost));
+        activate(*frontmost);
     }
 }
 

@@ -105,16 +105,10 @@ xcb_window_t OwnWindows::waitForActive(const std::string& title) {
             const auto active = display_.property(display_.root(), activeWindowProperty);
             found = active.empty() ? xcb_window_t{XCB_NONE} : active.front();
             return found != XCB_NONE && display_.text(found, "_NET_WM_NAME") == title &&
-                   hasKeyboard(found);
+                   display_.focus() == found;
         },
         title + " to be active and have the keyboard");
     return found;
-}
-
-bool OwnWindows::hasKeyboard(xcb_window_t window) const {
-    const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
-        display_.connection(), xcb_get_input_focus(display_.connection()), nullptr));
-    return reply && reply->focus == window;
 }
 
 bool OwnWindows::isViewable(xcb_window_t window) const {

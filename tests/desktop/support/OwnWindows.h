@@ -57,7 +57,6 @@ class OwnWindows {
   private:
     void waitUntilClickIsThrough() const;
     xcb_window_t waitForActive(const std::string& title);
-    [[nodiscard]] bool hasKeyboard(xcb_window_t window) const;
     [[nodiscard]] bool isViewable(xcb_window_t window) const;
 
     XDisplay display_;

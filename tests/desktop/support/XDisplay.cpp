@@ -57,6 +57,12 @@ xcb_atom_t XDisplay::atom(std::string_view name) const {
     return atom;
 }
 
+xcb_window_t XDisplay::focus() const {
+    const Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
+    return reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
+}
+
 std::vector<std::uint32_t> XDisplay::property(xcb_window_t window, std::string_view name) const {
     return properties({&window, 1}, name).front();
 }

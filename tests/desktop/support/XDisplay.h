@@ -35,6 +35,9 @@ class XDisplay {
     [[nodiscard]] const xcb_screen_t& screen() const { return *screen_; }
     [[nodiscard]] xcb_window_t root() const { return screen_->root; }
 
+    /// The window that has the keyboard; none, or the root, when no window has it.
+    [[nodiscard]] xcb_window_t focus() const;
+
     /// The atom of a name; made if the server does not know it. Asked for once.
     [[nodiscard]] xcb_atom_t atom(std::string_view name) const;
 
