@@ -37,8 +37,8 @@ void tellActivationPolicy(const TitledWindow& window) {
 }
 
 // In our own words: Qt's come when it has heard that the window is shown. By then the user may have
-// minimized it again, and it would come back. Without a window manager there is nobody to ask, and Qt
-// gives the keyboard to the window itself.
+// minimized it again, and it would come back. Without a window manager there is nobody to ask, and
+// Qt gives the keyboard to the window itself.
 void activate(TitledWindow& window) {
     if (reasonForDistrust() == Distrust::noWindowManager) {
         window.activateWindow();

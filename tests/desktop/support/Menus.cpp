@@ -1,6 +1,5 @@
 #include "tests/desktop/support/Menus.h"
 
-#include "tests/desktop/support/Deadline.h"
 #include "tests/desktop/support/ProgramWindows.h"
 #include "tests/desktop/support/ScreenPicture.h"
 
@@ -34,10 +33,11 @@ std::vector<Geometry> Menus::frames() const {
     return frames;
 }
 
-void Menus::waitUntilOpen(std::size_t count) const {
-    waitUntil([&] { return frames().size() == count; }, std::to_string(count) +
-                                                            " open menus, but there are " +
-                                                            std::to_string(frames().size()));
+void Menus::waitUntilOpen(std::size_t count, const Deadline& deadline) const {
+    waitUntil([&] { return frames().size() == count; },
+              std::to_string(count) + " open menus, but there are " +
+                  std::to_string(frames().size()),
+              deadline);
 }
 
 std::vector<int> Menus::waitForItems(std::size_t count) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/desktop/support/Deadline.h"
 #include "tests/desktop/support/WindowSpec.h"
 #include "tests/desktop/support/XDisplay.h"
 
@@ -17,7 +18,7 @@ class Menus {
     [[nodiscard]] std::vector<Geometry> frames() const;
 
     /// Waits until so many are open. Throws `TimedOut`.
-    void waitUntilOpen(std::size_t count) const;
+    void waitUntilOpen(std::size_t count, const Deadline& deadline = Deadline()) const;
 
     /// The heights at which the items are, from the top of the screen: separators do not count.
     /// Waits until the menu that was opened last has painted so many.
